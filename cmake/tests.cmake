@@ -1,0 +1,97 @@
+# Tests. ctest labels: core, stories, window, lint. Counts of single tests are in results/*.xml (JUnit).
+
+find_package(Python3 REQUIRED COMPONENTS Interpreter)
+find_package(GTest)
+
+set(results ${CMAKE_BINARY_DIR}/results)
+file(MAKE_DIRECTORY ${results})
+set(test_bin ${CMAKE_BINARY_DIR}/tests)
+set(test_env LC_ALL=C.UTF-8 QT_QPA_PLATFORM=offscreen
+    UBSAN_OPTIONS=print_stacktrace=1 LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0)
+
+# core_tests: one program, run in a few shards side by side.
+file(GLOB_RECURSE core_test_sources CONFIGURE_DEPENDS tests/core/*.cpp)
+file(GLOB support_sources CONFIGURE_DEPENDS tests/support/*.cpp)
+if(core_test_sources AND NOT GTest_FOUND)
+    message(STATUS "GoogleTest is missing: core_tests is left out")
+elseif(core_test_sources)
+    add_executable(core_tests ${core_test_sources} ${support_sources})
+    set_target_properties(core_tests PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${test_bin})
+    target_include_directories(core_tests PRIVATE tests ${PROJECT_SOURCE_DIR})
+    target_compile_definitions(core_tests PRIVATE KALCO_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data")
+    target_link_libraries(core_tests PRIVATE
+        $<TARGET_NAME_IF_EXISTS:kalco_ctl> kalco_core GTest::gtest GTest::gtest_main kalco_warnings)
+    if(KALCO_PCH)
+        target_precompile_headers(core_tests PRIVATE
+            <gtest/gtest.h> <array> <filesystem> <fstream> <functional> <random> <span> <string> <vector>)
+    endif()
+    set(shards 4)
+    foreach(shard RANGE 1 ${shards})
+        math(EXPR index "${shard} - 1")
+        add_test(NAME core_${shard} COMMAND core_tests --gtest_brief=1 --gtest_output=xml:${results}/core_${shard}.xml)
+        set_tests_properties(core_${shard} PROPERTIES LABELS core TIMEOUT 600
+            ENVIRONMENT "${test_env};GTEST_TOTAL_SHARDS=${shards};GTEST_SHARD_INDEX=${index}")
+    endforeach()
+endif()
+
+# Script stories, through kalcoctl and through the real window.
+function(add_stories name program label)
+    add_test(NAME ${name} COMMAND Python3::Interpreter ${PROJECT_SOURCE_DIR}/tests/run_stories.py
+        --program $<TARGET_FILE:${program}> --kalcoctl $<TARGET_FILE:kalcoctl> --junit ${results}/${name}.xml)
+    set_tests_properties(${name} PROPERTIES LABELS ${label} TIMEOUT 900 ENVIRONMENT "${test_env}" PROCESSORS 2)
+endfunction()
+
+if(TARGET kalcoctl)
+    add_stories(stories_kalcoctl kalcoctl stories)
+    add_test(NAME kalcoctl_links COMMAND Python3::Interpreter ${PROJECT_SOURCE_DIR}/tests/check_links.py
+        $<TARGET_FILE:kalcoctl>)
+    set_tests_properties(kalcoctl_links PROPERTIES LABELS stories)
+endif()
+
+add_test(NAME include_rule COMMAND Python3::Interpreter ${PROJECT_SOURCE_DIR}/tests/check_includes.py
+    ${PROJECT_SOURCE_DIR})
+set_tests_properties(include_rule PROPERTIES LABELS lint)
+
+if(NOT TARGET kalco_app)
+    return()
+endif()
+
+# Window tests, all on the offscreen platform. The tests that this folder's programs share lie in tests/app/support/.
+find_package(Qt6 REQUIRED COMPONENTS Test)
+file(GLOB app_support_sources CONFIGURE_DEPENDS tests/app/support/*.cpp tests/app/support/*.h)
+
+function(add_window_program name)
+    add_executable(${name} ${ARGN})
+    set_target_properties(${name} PROPERTIES AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY ${test_bin})
+    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+    target_link_libraries(${name} PRIVATE
+        $<TARGET_NAME_IF_EXISTS:kalco_ctl> kalco_app kalco_core Qt6::Test kalco_warnings)
+    if(KALCO_PCH)
+        target_precompile_headers(${name} REUSE_FROM kalco_app)
+    endif()
+endfunction()
+
+foreach(tool window_script window_picture)
+    file(GLOB tool_sources CONFIGURE_DEPENDS tests/app/${tool}/*.cpp tests/app/${tool}/*.h)
+    if(tool_sources)
+        add_window_program(${tool} ${tool_sources} ${app_support_sources})
+    endif()
+endforeach()
+if(TARGET window_script AND TARGET kalcoctl)
+    add_stories(stories_window window_script window)
+endif()
+
+file(GLOB window_tests CONFIGURE_DEPENDS tests/app/test_*.cpp)
+add_custom_target(window_tests)
+foreach(source ${window_tests})
+    get_filename_component(name ${source} NAME_WE)
+    add_window_program(${name} ${source} ${app_support_sources})
+    target_compile_definitions(${name} PRIVATE KALCO_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data")
+    if(TARGET kalcoctl)
+        target_compile_definitions(${name} PRIVATE KALCO_KALCOCTL="$<TARGET_FILE:kalcoctl>")
+        add_dependencies(${name} kalcoctl)
+    endif()
+    add_test(NAME ${name} COMMAND ${name} -o ${results}/${name}.xml,junitxml -o -,txt)
+    set_tests_properties(${name} PROPERTIES LABELS window TIMEOUT 600 ENVIRONMENT "${test_env}")
+    add_dependencies(window_tests ${name})
+endforeach()
