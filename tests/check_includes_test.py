@@ -1,0 +1,59 @@
+#!/usr/bin/env python3
+"""The include rule finds what it must find."""
+import os
+import tempfile
+import unittest
+
+from check_includes import check
+
+
+class IncludeRule(unittest.TestCase):
+    def breaches(self, files):
+        with tempfile.TemporaryDirectory() as root:
+            for name, text in files.items():
+                path = os.path.join(root, name)
+                os.makedirs(os.path.dirname(path), exist_ok=True)
+                with open(path, "w", encoding="utf-8") as file:
+                    file.write(text)
+            return check(root)[0]
+
+    def test_a_clean_tree(self):
+        self.assertEqual(self.breaches({
+            "src/runtime_error.h": "#include <string>\n",
+            "src/image/image.h": '#include "runtime_error.h"\n',
+            "src/image/storage.cpp": "#include <unistd.h>\n",
+            "src/players/roster.h": '#include "image/image.h"\n#include <vector>\n',
+            "ctl/main.cpp": "#include <CLI/CLI.hpp>\n",
+            "app/main.cpp": "#include <QApplication>\n",
+        }), [])
+
+    def assert_one(self, files, part):
+        found = self.breaches(files)
+        self.assertEqual(len(found), 1, found)
+        self.assertIn(part, found[0])
+
+    def test_upward(self):
+        self.assert_one({"src/image/a.h": '#include "codec/b.h"\n', "src/codec/b.h": ""}, "may not include codec/")
+
+    def test_sideways(self):
+        self.assert_one({"src/league/a.h": '#include "kickers/b.h"\n', "src/kickers/b.h": ""}, "may not include")
+
+    def test_cycle_inside_a_folder(self):
+        self.assert_one({"src/image/a.h": '#include "image/b.h"\n', "src/image/b.h": '# include "image/a.h"\n'}, "cycle")
+
+    def test_foreign_headers(self):
+        self.assert_one({"src/window/a.h": "#include <QString>\n"}, "<QString>")
+        self.assert_one({"src/window/a.cpp": "#include <unistd.h>\n"}, "<unistd.h>")
+        self.assert_one({"ctl/main.cpp": "#include <QtCore/QString>\n"}, "Qt")
+        self.assert_one({"app/main.cpp": "#include <CLI/CLI.hpp>\n"}, "command line")
+
+    def test_unknown_folder_and_file(self):
+        self.assert_one({"src/other/a.h": ""}, "no line in the table")
+        self.assert_one({"src/image/a.h": '#include "b.h"\n'}, "no file below src/")
+
+    def test_root_files_stand_above(self):
+        self.assert_one({"src/image/a.h": '#include "all.h"\n', "src/all.h": ""}, "stands above")
+
+
+if __name__ == "__main__":
+    unittest.main()
