@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+
+namespace kalco {
+
+enum class Icon { information, warning, stop };
+enum class Buttons { ok, yes_no_cancel };
+enum class Answer { ok, yes, no, cancel };
+
+/// What the window model asks of the machine around it. Message texts are Latin-1, paths are UTF-8.
+class Platform {
+public:
+    virtual ~Platform() = default;
+
+    virtual Answer message(const std::string& text, Icon icon, Buttons buttons) = 0;
+    /// Asks for an existing file; empty when the user cancels. `filter` is pairs of a label and a pattern, divided by
+    /// "|"; the first pair is chosen.
+    virtual std::string open_dialog(const std::string& filter, const std::string& initial_directory) = 0;
+    /// The directory below which the side files lie.
+    virtual std::string program_directory() const = 0;
+};
+
+}  // namespace kalco
