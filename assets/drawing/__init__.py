@@ -1,0 +1,1 @@
+"""The drawings of Kalco's pictures: head, hair, beards, boots, swatches and icon."""
