@@ -1,0 +1,36 @@
+#pragma once
+
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// The language of `kalcoctl script`: one user action a line.
+namespace kalco::script {
+
+/// A script that can't be run; the runner adds the number of the line.
+class ScriptError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+enum class Verb { start, choose, answer, tab, pick, double_click, click, type, focus, show, close };
+
+struct Action {
+    Verb verb = Verb::start;
+    std::string control;             ///< pick, double_click, click, type, focus
+    std::string text;                ///< type: Latin-1; choose: a path in UTF-8; answer: its word
+    bool cancelled = false;          ///< choose
+    int number = 0;                  ///< tab; the row of pick and double_click
+    std::vector<std::string> names;  ///< show
+};
+
+/// The action of a line; nothing for an empty line and a comment. Throws ScriptError.
+std::optional<Action> parse_line(std::string_view line);
+
+/// UTF-8 to one byte a character; what Latin-1 does not have becomes "?".
+std::string latin1_of_utf8(std::string_view text);
+std::string utf8_of_latin1(std::string_view text);
+
+}  // namespace kalco::script
