@@ -2,12 +2,16 @@
 
 #include <utility>
 
+#include "players/players.h"
+#include "teams/names.h"
 #include "window/shell.h"
 
 namespace kalco {
 
 Editor::Editor(Platform& platform, StorageOpener opener) : form(platform, std::move(opener)) {
     connect_window(form);
+    connect_teams(form);
+    connect_players(form);
 }
 
 }  // namespace kalco

@@ -1,0 +1,135 @@
+#pragma once
+
+#include <array>
+#include <string_view>
+
+/// The player record: three little-endian 32-bit words, 96 bits all told here, and the tables of their values.
+namespace kalco {
+
+/// The sixteen skills, stored as the skill minus 12 in three bits.
+enum class Skill {
+    attack,
+    defence,
+    balance,
+    stamina,
+    speed,
+    acceleration,
+    passing,
+    shot_power,
+    shot_accuracy,
+    jump,
+    heading,
+    technique,
+    dribbling,
+    curve,
+    positivity,
+    reaction,
+};
+inline constexpr std::size_t skill_count = 16;
+inline constexpr int lowest_skill = 12;
+inline constexpr int highest_skill = 19;
+
+/// A stretch of bits of one of the words (1 to 3), counted from bit 0.
+struct BitField {
+    std::string_view name;
+    int word;
+    int bit;
+    int width;
+
+    constexpr long long unit() const { return 1LL << bit; }
+};
+
+inline constexpr BitField role_bits{"role", 1, 0, 3};
+inline constexpr BitField hair_style_bits{"hair style", 1, 4, 5};
+inline constexpr BitField hair_colour_bits{"hair colour", 1, 9, 3};
+inline constexpr BitField beard_style_bits{"beard style", 1, 13, 3};
+inline constexpr BitField beard_colour_bits{"beard colour", 1, 17, 3};
+inline constexpr BitField height_bits{"height, cm minus 148", 1, 20, 6};
+inline constexpr BitField number_bits{"number, minus 1", 1, 26, 5};
+inline constexpr BitField out_of_role_bits{"out of role", 1, 31, 1};
+inline constexpr BitField skin_bits{"skin colour", 2, 0, 2};
+inline constexpr BitField build_bits{"build", 2, 2, 3};
+inline constexpr BitField age_bits{"age, minus 15", 2, 5, 5};
+inline constexpr BitField boots_bits{"boot colour", 3, 27, 3};
+inline constexpr BitField foot_bits{"preferred foot", 3, 30, 2};
+inline constexpr std::array<BitField, 4> spare_bits{{
+    {"spare", 1, 3, 1},
+    {"spare", 1, 12, 1},
+    {"spare", 1, 16, 1},
+    {"spare", 2, 13, 1},
+}};
+
+/// By Skill.
+inline constexpr std::array<BitField, skill_count> skill_bits{{
+    {"attack", 2, 29, 3},
+    {"defence", 3, 0, 3},
+    {"balance", 2, 14, 3},
+    {"stamina", 2, 17, 3},
+    {"speed", 2, 23, 3},
+    {"acceleration", 2, 26, 3},
+    {"passing", 3, 9, 3},
+    {"shot power", 3, 3, 3},
+    {"shot accuracy", 3, 6, 3},
+    {"jump", 3, 18, 3},
+    {"heading", 3, 15, 3},
+    {"technique", 3, 12, 3},
+    {"dribbling", 2, 20, 3},
+    {"curve", 3, 21, 3},
+    {"positivity", 3, 24, 3},
+    {"reaction", 2, 10, 3},
+}};
+
+constexpr const BitField& bits_of(Skill skill) {
+    return skill_bits[static_cast<std::size_t>(skill)];
+}
+
+/// The editor's smallest height; a record stores heights from 148 on, 7 below it.
+inline constexpr int lowest_height = 155;
+inline constexpr int highest_height = 210;
+inline constexpr int lowest_stored_height = 148;
+inline constexpr int lowest_age = 15;
+inline constexpr int highest_age = 46;
+inline constexpr int highest_cost = 250;
+
+/// By stored value. The list cboRuolo has them in another order.
+inline constexpr std::array<std::string_view, 8> role_texts{"Portiere",
+                                                            "Difensore Centrale",
+                                                            "Terzino",
+                                                            "Centrocampista Difensivo",
+                                                            "Centrocampista Laterale",
+                                                            "Trequartista",
+                                                            "Centravanti",
+                                                            "Attaccante Laterale"};
+inline constexpr std::array<std::string_view, 8> role_rows{"Portiere",
+                                                           "Terzino",
+                                                           "Difensore Centrale",
+                                                           "Centrocampista Difensivo",
+                                                           "Centrocampista Laterale",
+                                                           "Trequartista",
+                                                           "Attaccante Laterale",
+                                                           "Centravanti"};
+inline constexpr std::array<std::string_view, 32> hair_style_texts{
+    "A1", "A2", "A3", "B1", "B2", "B3", "B4", "B5", "B6", "C1", "C2", "D1", "D2", "E1", "E2", "F1",
+    "F2", "F3", "G1", "H1", "I1", "I2", "I3", "J1", "K1", "L1", "L2", "L3", "M1", "N1", "O1", "P1"};
+inline constexpr std::array<std::string_view, 8> hair_colour_texts{"A", "B", "C", "D", "E", "F", "G", "H"};
+inline constexpr std::array<std::string_view, 7> beard_texts{"A", "B", "C", "D", "E", "F", "G"};
+inline constexpr std::array<std::string_view, 8> boots_texts{"A", "B", "C", "D", "E", "F", "G", "H"};
+inline constexpr std::array<std::string_view, 4> skin_texts{"A - Bianco", "B - Giallo", "C - Marrone", "D - Nero"};
+inline constexpr std::array<std::string_view, 8> build_texts{"A < 60 Kg",
+                                                             "B 60\xF7"
+                                                             "65 Kg",
+                                                             "C 65\xF7"
+                                                             "70 Kg",
+                                                             "D 70\xF7"
+                                                             "75 Kg",
+                                                             "E 75\xF7"
+                                                             "80 Kg",
+                                                             "F 80\xF7"
+                                                             "85 Kg",
+                                                             "G 85\xF7"
+                                                             "90 Kg",
+                                                             "H > 90 Kg"};
+inline constexpr std::array<std::string_view, 3> foot_texts{"Destro", "Sinistro", "Ambi"};
+inline constexpr std::array<std::string_view, 2> out_of_role_texts{"Si", "No"};
+
+}  // namespace kalco
