@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "players/players.h"
+#include "teamfiles/teamfiles.h"
 #include "teams/names.h"
 #include "window/shell.h"
 
@@ -12,6 +13,7 @@ Editor::Editor(Platform& platform, StorageOpener opener) : form(platform, std::m
     connect_window(form);
     connect_teams(form);
     connect_players(form);
+    connect_teamfiles(form);
 }
 
 }  // namespace kalco
