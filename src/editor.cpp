@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "league/league.h"
 #include "players/players.h"
 #include "teamfiles/teamfiles.h"
 #include "teams/names.h"
@@ -14,6 +15,7 @@ Editor::Editor(Platform& platform, StorageOpener opener) : form(platform, std::m
     connect_teams(form);
     connect_players(form);
     connect_teamfiles(form);
+    connect_league(form);
 }
 
 }  // namespace kalco

@@ -88,6 +88,7 @@ void Conv_PARAM(frmKalco& form) {
 }
 
 void connect_team_exchange(frmKalco& form) {
+    form.slots.cmdImp = [&form] { cmdImp_Click(form); };
     form.cmdExp.click = [&form] { cmdExp_Click(form); };
     form.cmdImp.click = [&form] { cmdImp_Click(form); };
     form.cmdImpML.click = [&form] { cmdImpML_Click(form); };

@@ -36,6 +36,7 @@ struct Slots {
     Event Read_Bar;
     Event SALV_IMP;
     Event SAVE_IMP_ML;
+    Event cmdImp;
 };
 
 inline constexpr int set_piece_columns = 6;
