@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "formations/formations.h"
 #include "league/league.h"
 #include "players/players.h"
 #include "teamfiles/teamfiles.h"
@@ -15,6 +16,7 @@ Editor::Editor(Platform& platform, StorageOpener opener) : form(platform, std::m
     connect_teams(form);
     connect_players(form);
     connect_teamfiles(form);
+    connect_formations(form);
     connect_league(form);
 }
 

@@ -18,6 +18,8 @@ frmKalco::frmKalco(Platform& services, StorageOpener opener)
     cmdImpNC.set_enabled(false);
     cmdSaveNC.set_enabled(false);
 
+    fraKick.set_enabled(false);
+
     cmdteam2.set_enabled(false);
     ListCompra.set_enabled(false);
     cmdTransfer.set_enabled(false);
