@@ -3,7 +3,9 @@
 #include <utility>
 
 #include "formations/formations.h"
+#include "kickers/kickers.h"
 #include "league/league.h"
+#include "numbers/number_editor.h"
 #include "players/players.h"
 #include "teamfiles/teamfiles.h"
 #include "teams/names.h"
@@ -17,6 +19,8 @@ Editor::Editor(Platform& platform, StorageOpener opener) : form(platform, std::m
     connect_players(form);
     connect_teamfiles(form);
     connect_formations(form);
+    connect_numbers(form);
+    connect_kickers(form);
     connect_league(form);
 }
 

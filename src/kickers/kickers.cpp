@@ -1,0 +1,13 @@
+#include "kickers/kickers.h"
+
+#include "kickers/kickers_file.h"
+#include "kickers/set_pieces.h"
+
+namespace kalco {
+
+void connect_kickers(frmKalco& form) {
+    connect_set_pieces(form);
+    connect_kickers_file(form);
+}
+
+}  // namespace kalco
