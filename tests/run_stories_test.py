@@ -79,7 +79,7 @@ class StoryRunner(unittest.TestCase):
 
     def test_side_files(self):
         self.write("s/before/Export/a.DAT", "1")
-        make = "open('Export/{}', 'w').write('{}')\n" + QUIET
+        make = "open('Export/{}', 'w').write('{}')\n" + QUIET.replace("{", "{{").replace("}", "}}")
         self.assertIn("not to be made", self.verdict(make.format("b.DAT", 2)))
         self.assertIn("the file Export/a.DAT", self.verdict(make.format("a.DAT", 2)))
         self.assertIn("missing", self.verdict("import os; os.remove('Export/a.DAT')\n" + QUIET))
