@@ -51,6 +51,12 @@ endif()
 add_test(NAME include_rule COMMAND Python3::Interpreter ${PROJECT_SOURCE_DIR}/tests/check_includes.py
     ${PROJECT_SOURCE_DIR})
 set_tests_properties(include_rule PROPERTIES LABELS lint)
+file(GLOB script_tests CONFIGURE_DEPENDS tests/*_test.py)
+foreach(source ${script_tests})
+    get_filename_component(name ${source} NAME_WE)
+    add_test(NAME ${name} COMMAND Python3::Interpreter -B ${source})
+    set_tests_properties(${name} PROPERTIES LABELS lint)
+endforeach()
 
 if(NOT TARGET kalco_app)
     return()
