@@ -1,4 +1,7 @@
 #include <CLI/CLI.hpp>
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
 #include <iostream>
 
 #include "ctl/script/script_options.h"
@@ -13,9 +16,7 @@ int run_on_model(std::istream& script, kalco::script::ScriptPlatform& platform) 
     return kalco::script::run_script(script, stage, platform, std::cout, std::cerr);
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
+int run(int argc, char** argv) {
     CLI::App app("The companion of Kalco, the editor of a football game's CD image", "kalcoctl");
     app.require_subcommand(1);
     app.set_version_flag("--version", KALCO_VERSION);
@@ -24,4 +25,15 @@ int main(int argc, char** argv) {
     CLI11_PARSE(app, argc, argv);
     if (script.parsed()) return kalco::script::play_script(script_options, run_on_model);
     return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    try {
+        return run(argc, argv);
+    } catch (const std::exception& failure) {
+        std::fprintf(stderr, "kalcoctl: %s\n", failure.what());
+        return EXIT_FAILURE;
+    }
 }

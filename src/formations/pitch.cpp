@@ -43,7 +43,7 @@ void place_marker(frmKalco& form, int marker, int x, int y) {
 /// Two columns of 20 digits.
 void place_markers(frmKalco& form, std::string_view x_digits, std::string_view y_digits) {
     for (int k = first_marker; k <= last_marker; ++k) {
-        const auto place = static_cast<std::size_t>(2 * (k - first_marker));
+        const std::size_t place = 2 * index_of(k - first_marker);
         place_marker(form, k, hex_pair(x_digits.substr(place, 2)), hex_pair(y_digits.substr(place, 2)));
     }
 }
@@ -58,8 +58,7 @@ void move_selected(frmKalco& form, bool allowed, int x, int y) {
 }
 
 std::string default_team_player(const frmKalco& form) {
-    const std::size_t place = index_of(form.SelectedMarker - 1);
-    return read_player_name(form.image, pool_name_field(DefaultSlots.at(place)));
+    return read_player_name(form.image, pool_name_field(DefaultSlots.at(index_of(form.SelectedMarker - 1))));
 }
 
 std::string national_player(const frmKalco& form, int team) {
@@ -201,6 +200,7 @@ void connect_pitch(frmKalco& form) {
     form.cboSeqSQ2.set_items(short_team_rows());
     form.cboRL.set_items({role_labels.begin(), role_labels.end()});
     std::vector<std::string> modules;
+    modules.reserve(module_rows.size());
     for (const ModuleRow& row : module_rows) modules.emplace_back(row.name);
     form.cboMod.set_items(std::move(modules));
 

@@ -77,9 +77,10 @@ bool lock_exclusively(int fd) {
     struct flock whole {};
     whole.l_type = F_WRLCK;
     whole.l_whence = SEEK_SET;
-    if (::fcntl(fd, F_OFD_SETLK, &whole) != 0 && (errno == EAGAIN || errno == EACCES)) return false;
-#endif
+    return ::fcntl(fd, F_OFD_SETLK, &whole) == 0 || (errno != EAGAIN && errno != EACCES);
+#else
     return true;
+#endif
 }
 
 }  // namespace

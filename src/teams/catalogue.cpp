@@ -1,7 +1,10 @@
 #include "teams/catalogue.h"
 
+#include <algorithm>
+
 #include "codec/latin1.h"
 #include "codec/letters.h"
+#include "window/tabs.h"
 
 namespace kalco {
 namespace {
@@ -108,26 +111,22 @@ std::string read_full_width_name_of_row(const Image& image, int row) {
 }
 
 std::vector<std::string> all_team_rows() {
-    std::vector<std::string> rows;
-    for (const TeamFacts& facts : team_facts) rows.emplace_back(facts.row);
+    std::vector<std::string> rows(team_facts.size());
+    std::transform(team_facts.begin(), team_facts.end(), rows.begin(),
+                   [](const TeamFacts& facts) { return std::string(facts.row); });
     return rows;
 }
 
 std::vector<std::string> short_team_rows() {
-    std::vector<std::string> rows;
-    for (int row = 0; row < default_row; ++row) {
-        rows.emplace_back(team_facts[static_cast<std::size_t>(team_of_row(row))].row);
-    }
-    rows.emplace_back("Squadra Default ML");
+    std::vector<std::string> rows = all_team_rows();
+    rows.erase(rows.begin() + first_club_row, rows.begin() + first_club);
+    rows[default_row] = default_team_name;
     return rows;
 }
 
 std::vector<std::string> club_rows() {
-    std::vector<std::string> rows;
-    for (int club = 0; club < club_count; ++club) {
-        rows.emplace_back(team_facts[static_cast<std::size_t>(first_club + club)].row);
-    }
-    return rows;
+    const std::vector<std::string> rows = all_team_rows();
+    return {rows.begin() + first_club, rows.begin() + first_club + club_count};
 }
 
 }  // namespace kalco

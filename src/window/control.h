@@ -49,11 +49,11 @@ private:
 struct Place {
     static constexpr int outside_tabs = -1;
 
-    Place(Frame& frame);
+    Place(Frame& around);
     static Place on_tab(int tab) { return Place(tab, true); }
     static Place anywhere() { return Place(outside_tabs, true); }
     static Place off_screen() { return Place(outside_tabs, false); }
-    static Place off_screen_in(Frame& frame);
+    static Place off_screen_in(Frame& around);
 
     int tab;
     Frame* frame = nullptr;

@@ -7,6 +7,13 @@
 #include "runtime_error.h"
 
 namespace kalco {
+namespace {
+
+void require_row(int row, int end, int error_number) {
+    if (row < 0 || row >= end) throw RuntimeError(error_number);
+}
+
+}  // namespace
 
 void throw_no_such_element() {
     throw RuntimeError(error::no_such_element);
@@ -85,10 +92,6 @@ ListBox::ListBox(Registry& registry, std::string name, Place place)
 const std::string& ListBox::item(int row) const {
     static const std::string none;
     return row >= 0 && row < count() ? items_[static_cast<std::size_t>(row)] : none;
-}
-
-void ListBox::require_row(int row, int end, int error_number) const {
-    if (row < 0 || row >= end) throw RuntimeError(error_number);
 }
 
 void ListBox::add(std::string_view text) {

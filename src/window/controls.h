@@ -119,8 +119,6 @@ public:
     Event double_click;
 
 private:
-    void require_row(int row, int end, int error_number) const;
-
     std::vector<std::string> items_;
     int row_ = -1;
 };
@@ -272,7 +270,7 @@ public:
 private:
     void require_index(int index) const;
 
-    int first_;
+    int first_ = 0;
     std::deque<T> members_;
 };
 

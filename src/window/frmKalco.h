@@ -47,7 +47,7 @@ inline constexpr int last_marker = 11;
 /// attach themselves to the events here.
 class frmKalco {
 public:
-    explicit frmKalco(Platform& platform, StorageOpener opener = open_file);
+    explicit frmKalco(Platform& services, StorageOpener opener = open_file);
     frmKalco(const frmKalco&) = delete;
     frmKalco& operator=(const frmKalco&) = delete;
 
