@@ -1,0 +1,16 @@
+#pragma once
+
+#include "ctl/demo/demo_disc.h"
+#include "ctl/demo/world.h"
+
+/// The tables of the disc, each filled whole.
+namespace kalco::demo {
+
+/// Short names, full-width names, T1 to T6.
+void put_team_names(DemoDisc& disc);
+/// Names and records of the teams with players of their own, and the players' costs.
+void put_rosters(DemoDisc& disc, const World& world, Random& random);
+/// Names, records and costs of the players outside all rosters.
+void put_pool(DemoDisc& disc, const World& world);
+
+}  // namespace kalco::demo
