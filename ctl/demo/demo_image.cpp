@@ -25,9 +25,14 @@ DemoDisc make_demo_disc(std::uint64_t seed) {
 
     const World world = make_world(seed);
     Random rosters(seed, "rosters");
+    Random formations(seed, "formations");
+    Random bars(seed, "bars");
     put_team_names(disc);
     put_rosters(disc, world, rosters);
     put_pool(disc, world);
+    put_links(disc, world);
+    put_formations(disc, world, formations);
+    put_bars(disc, world, bars);
     return disc;
 }
 

@@ -68,17 +68,29 @@ static_assert(nation_sounds.size() == nation_count);
 
 }  // namespace
 
-Sound sound_of_nation(int team) {
-    return static_cast<Sound>(nation_sounds[static_cast<std::size_t>(team)] - '0');
+Sound sound_of_country(int code) {
+    if (code < nation_count) return static_cast<Sound>(nation_sounds[static_cast<std::size_t>(code)] - '0');
+    switch (code) {
+        case 0x5F:
+        case 0x65: return Sound::germanic;
+        case 0x60:
+        case 0x61:
+        case 0x62:
+        case 0x63: return Sound::slavic;
+        case 0x66:
+        case 0x74: return Sound::northern;
+        case 0x69: return Sound::levantine;
+        default: return Sound::southern;
+    }
 }
 
 std::string invented_name(Sound sound, Random& random) {
     const Syllables& from = syllables()[static_cast<std::size_t>(sound)];
     for (;;) {
         std::string name(random.one_of(from.heads));
-        const int middles = random.below(10);
-        if (middles > 2) name += random.one_of(from.middles);
-        if (middles > 8) name += random.one_of(from.middles);
+        // A vowel goes between consonants.
+        const bool open = std::string_view("aeiou ").find(name.back()) != std::string_view::npos;
+        if (!open || random.chance(40)) name += random.one_of(from.middles);
         name += random.one_of(from.tails);
         if (const std::size_t gap = name.find_first_of(" '"); gap != std::string::npos && gap + 1 < name.size()) {
             char& initial = name[gap + 1];

@@ -1,16 +1,37 @@
 #include "ctl/demo/line_ups.h"
 
-namespace kalco::demo {
+#include <string_view>
+#include <utility>
 
-std::array<Role, 10> line_up(int module) {
-    // By stored role value, in the order of the module catalogue.
-    constexpr std::array<std::string_view, line_up_count> modules{
-        "1122344556", "1122334456", "1122344566", "1122334466", "1122355677", "1122335677", "1113445556", "1113344556",
-        "1113445566", "1113344566", "1113445677", "1113344677", "1112234456", "1112233446", "1112235566", "1112233566"};
-    std::array<Role, 10> roles{};
-    for (std::size_t k = 0; k < roles.size(); ++k) {
-        roles[k] = static_cast<Role>(modules[static_cast<std::size_t>(module)][k] - '0');
+#include "formations/formation.h"
+
+namespace kalco::demo {
+namespace {
+
+/// How the labels on the pitch begin, and the role of a player who stands there.
+constexpr std::array<std::pair<std::string_view, Role>, 8> roles_of_labels{{
+    {"DC", Role::centre_back},
+    {"SW", Role::centre_back},
+    {"LIB", Role::centre_back},
+    {"TER", Role::full_back},
+    {"CC", Role::midfielder},
+    {"CL", Role::wide_midfielder},
+    {"CO", Role::playmaker},
+    {"CA", Role::striker},
+}};
+
+Role role_at(std::string_view label) {
+    for (const auto& [start, role] : roles_of_labels) {
+        if (label.substr(0, start.size()) == start) return role;
     }
+    return Role::winger;
+}
+
+}  // namespace
+
+std::array<Role, outfield_players> line_up(const ModuleRow& module) {
+    std::array<Role, outfield_players> roles{};
+    for (std::size_t k = 0; k < roles.size(); ++k) roles[k] = role_at(role_label(module.roles.substr(2 * k, 2)));
     return roles;
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <vector>
 
 namespace kalco::demo {
 namespace {
@@ -118,24 +119,22 @@ Player make_player(Sound sound, Role role, int strength, int number, Random& ran
     return player;
 }
 
-std::array<int, roster_players> make_numbers(Random& random) {
+std::array<int, roster_players> make_numbers(int highest, Random& random) {
     std::array<int, roster_players> numbers{};
     std::iota(numbers.begin(), numbers.end(), 1);
-    // Some squads wear higher numbers in place of some of the reserves'.
-    if (random.chance(50)) {
-        std::array<int, 9> high{};
-        std::iota(high.begin(), high.end(), 24);
-        random.shuffle(high);
-        const int count = random.between(1, 5);
-        for (int k = 0; k < count; ++k) {
-            numbers[static_cast<std::size_t>(random.between(11, 22))] = high[static_cast<std::size_t>(k)];
-        }
+    // The reserves wear the numbers behind 11 in any order, some of them higher ones.
+    std::vector<int> others(static_cast<std::size_t>(highest - roster_players));
+    std::iota(others.begin(), others.end(), roster_players + 1);
+    random.shuffle(others);
+    const int higher = random.below(6);
+    for (int k = 0; k < higher; ++k) {
+        numbers[static_cast<std::size_t>(random.between(12, 22))] = others[static_cast<std::size_t>(k)];
     }
-    std::array<int, roster_players - 12> reserves{};
-    std::copy(numbers.begin() + 12, numbers.end(), reserves.begin());
-    random.shuffle(reserves);
-    std::copy(reserves.begin(), reserves.end(), numbers.begin() + 12);
-    // Field players swap shirts now and then.
+    for (int k = 0; k < 20; ++k) {
+        std::swap(numbers[static_cast<std::size_t>(random.between(12, 22))],
+                  numbers[static_cast<std::size_t>(random.between(12, 22))]);
+    }
+    // Field players have swapped shirts now and then.
     for (int k = 0; k < 3; ++k) {
         std::swap(numbers[static_cast<std::size_t>(random.between(1, 10))],
                   numbers[static_cast<std::size_t>(random.between(1, 10))]);

@@ -32,7 +32,7 @@ Roles squad_roles(const std::array<Role, 10>& field_players, Random& random);
 /// number, 1 to 32.
 Player make_player(Sound sound, Role role, int strength, int number, Random& random);
 
-/// 23 shirt numbers from 1 to 32, the goalkeeper's first.
-std::array<int, roster_players> make_numbers(Random& random);
+/// 23 different shirt numbers from 1 to `highest`, the goalkeeper's first.
+std::array<int, roster_players> make_numbers(int highest, Random& random);
 
 }  // namespace kalco::demo

@@ -12,5 +12,11 @@ void put_team_names(DemoDisc& disc);
 void put_rosters(DemoDisc& disc, const World& world, Random& random);
 /// Names, records and costs of the players outside all rosters.
 void put_pool(DemoDisc& disc, const World& world);
+/// The clubs' links to their players.
+void put_links(DemoDisc& disc, const World& world);
+/// Formations of all teams, also of those that the editor has no row for: modules of the catalogue, some moved a bit.
+void put_formations(DemoDisc& disc, const World& world, Random& random);
+/// Strength bars of the same teams but the default one, 3 to 9.
+void put_bars(DemoDisc& disc, const World& world, Random& random);
 
 }  // namespace kalco::demo
