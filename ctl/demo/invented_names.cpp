@@ -11,43 +11,54 @@ namespace kalco::demo {
 namespace {
 
 struct Syllables {
-    std::vector<std::string_view> heads;
-    std::vector<std::string_view> middles;
+    std::string_view particle;  ///< Before some of the names.
+    std::vector<std::string_view> onsets;
+    std::vector<std::string_view> rhymes;
+    std::vector<std::string_view> links;  ///< Between a consonant and the tail.
     std::vector<std::string_view> tails;
 };
 
 /// By Sound. Accents are single bytes, as everywhere.
 const std::array<Syllables, 8>& syllables() {
     static const std::array<Syllables, 8> all{{
-        {{"Brask", "Dunv", "Fenk", "Harv", "Kelph", "Lorv", "Madr", "Ormb", "Pelg", "Strav", "Thorb", "Wexl", "O'Brav",
-          "McTur"},
+        {"O'",
+         {"Br", "D", "F", "H", "K", "L", "M", "N", "P", "Str", "Th", "W", "Cr", "G"},
+         {"ask", "unv", "enk", "arv", "elph", "orv", "adr", "umb", "elg", "av", "orb", "ex", "ill", "edd"},
          {"a", "e", "er", "i", "o", "al"},
-         {"bury", "don", "gath", "ley", "mund", "rix", "shaw", "tun", "wick", "worn", "an"}},
-        {{"Albor", "Barq", "Cazt", "Delv", "Fuenq", "Galb", "Ibarz", "Luzt", "Morz", "Quind", "Serv", "Valq", "Zarp",
-          "De "},
+         {"bury", "don", "gath", "ley", "mund", "rix", "shaw", "tun", "wick", "worn", "an", "ock"}},
+        {"De ",
+         {"B", "C", "D", "F", "G", "L", "M", "Qu", "R", "S", "V", "Z", "Tr", "P"},
+         {"alb", "arq", "azt", "elv", "uen", "alv", "ib", "uz", "orz", "ind", "erv", "olq", "arp", "est"},
          {"a", "e", "i", "o", "ua", "ara", "ila"},
-         {"bar", "dazo", "dez", "lhor", "llona", "n\xE3o", "nteo", "quil", "r\xEDn", "tovel", "veda", "zar"}},
-        {{"Belv", "Corz", "Darp", "Falb", "Grav", "Lamv", "Montr", "Norb", "Pasq", "Rizp", "Serg", "Torv", "Vald",
-          "D'Orb"},
+         {"bar", "dazo", "dez", "lhor", "llona", "n\xE3o", "nteo", "quil", "r\xEDn", "tovel", "veda", "zar", "mio"}},
+        {"Di ",
+         {"B", "C", "D", "F", "Gr", "L", "M", "N", "P", "R", "S", "T", "V", "Cl"},
+         {"elv", "orz", "arp", "alb", "av", "amb", "ontr", "ill", "asc", "izp", "erg", "urv", "ald", "oss"},
          {"a", "e", "i", "o", "u", "ale", "iro"},
          {"cchio", "dello", "gnot", "lvet", "mozzo", "narel", "rdun", "ssolo", "ttavo", "vierro", "zzimo", "l\xE9"}},
-        {{"Achd", "Brenk", "Dorv", "Eckl", "Falz", "Grimp", "Holk", "Krav", "Lindv", "M\xFCrl", "Raug", "Stolk", "Van ",
-          "W\xF6lp"},
+        {"Van ",
+         {"Br", "D", "F", "Gr", "H", "Kr", "L", "M", "R", "St", "W", "K", "Schl", "T"},
+         {"achd", "enk", "orv", "eckl", "alz", "imp", "olk", "av", "indv", "\xFCrl", "aug", "ult", "\xF6lp", "ess"},
          {"a", "e", "en", "er", "i", "o"},
-         {"bach", "brug", "brandel", "grem", "haus", "kerl", "munt", "sund", "stad", "str\xF6m", "veld", "zer"}},
-        {{"Borz", "Chuv", "Drag", "Gorv", "Jask", "Kuvl", "Lubr", "Myrk", "Nuvg", "Pyrt", "Rudv", "Stolp", "Vukl",
-          "Zdral"},
+         {"bach", "brug", "dorn", "grem", "haus", "kerl", "munt", "sund", "stad", "str\xF6m", "veld", "zer"}},
+        {"",
+         {"B", "Ch", "Dr", "G", "J", "K", "L", "M", "N", "P", "R", "St", "V", "Zdr"},
+         {"orz", "uv", "ag", "urv", "ask", "uvl", "ubr", "yrk", "evg", "yrt", "udv", "olp", "ukl", "aln"},
          {"a", "e", "i", "o", "u", "an", "or"},
          {"bko", "chun", "dicz", "lakh", "nikar", "rovsk", "sekh", "shun", "tkov", "vicz", "yevo", "zny"}},
-        {{"Akd", "Balz", "Dimk", "El ", "Farz", "Hasb", "Karv", "Mahr", "Nafd", "Ozg", "Salk", "Tarv", "Yilb", "Zerk"},
+        {"El ",
+         {"B", "D", "F", "G", "H", "K", "M", "N", "R", "S", "T", "Y", "Z", "J"},
+         {"akd", "alz", "imk", "urf", "arz", "asb", "ulv", "ahr", "afd", "ozg", "alk", "eyv", "ilb", "erk"},
          {"a", "e", "i", "o", "u", "ari", "ou"},
          {"banis", "dolis", "doghan", "kisar", "larim", "mouh", "nakor", "lid", "ravel", "sakun", "tayir", "zanou"}},
-        {{"Abk", "Bazi", "Chiw", "Diob", "Ekol", "Kazu", "Malw", "Ndov", "Obir", "Phol", "Sibu", "Tamb", "Uchel",
-          "Zogo"},
-         {"a", "e", "i", "o", "u", "le"},
+        {"",
+         {"B", "Ch", "D", "Ek", "K", "M", "Nd", "Ob", "Ph", "S", "T", "Uch", "Z", "W"},
+         {"ab", "azi", "iw", "iob", "ol", "azu", "alw", "ov", "ir", "ul", "ibu", "amb", "el", "ogo"},
+         {"a", "e", "i", "o", "u"},
          {"bero", "doul", "jorwa", "kwezi", "lankor", "mbazo", "nyiri", "phora", "ratu", "s\xE9lo", "tuwe", "waku"}},
-        {{"Aki", "Chezo", "Daebo", "Fuku", "Hanai", "Ishu", "Jinbo", "Kurai", "Mingu", "Nagu", "Okiro", "Shinu",
-          "Taebi", "Yozu"},
+        {"",
+         {"Ak", "Ch", "D", "F", "H", "Ish", "J", "K", "M", "N", "Ok", "Sh", "T", "Y"},
+         {"i", "ezo", "aebo", "uku", "anai", "u", "inbo", "urai", "ingu", "agu", "iro", "oshi", "inu", "o"},
          {"da", "ha", "ki", "mo", "no", "su"},
          {"boru", "dami", "gawo", "hojin", "juno", "mirei", "noko", "raido", "shugo", "tamu", "yamo", "yongi"}},
     }};
@@ -87,15 +98,12 @@ Sound sound_of_country(int code) {
 std::string invented_name(Sound sound, Random& random) {
     const Syllables& from = syllables()[static_cast<std::size_t>(sound)];
     for (;;) {
-        std::string name(random.one_of(from.heads));
-        // A vowel goes between consonants.
-        const bool open = std::string_view("aeiou ").find(name.back()) != std::string_view::npos;
-        if (!open || random.chance(40)) name += random.one_of(from.middles);
+        std::string name(random.chance(6) ? from.particle : "");
+        name += random.one_of(from.onsets);
+        name += random.one_of(from.rhymes);
+        const bool open = std::string_view("aeiou").find(name.back()) != std::string_view::npos;
+        if (!open || random.chance(30)) name += random.one_of(from.links);
         name += random.one_of(from.tails);
-        if (const std::size_t gap = name.find_first_of(" '"); gap != std::string::npos && gap + 1 < name.size()) {
-            char& initial = name[gap + 1];
-            if (initial >= 'a' && initial <= 'z') initial = static_cast<char>(initial - 'a' + 'A');
-        }
         if (name.size() <= static_cast<std::size_t>(player_name_bytes)) return name;
     }
 }
