@@ -33,6 +33,8 @@ DemoDisc make_demo_disc(std::uint64_t seed) {
     put_links(disc, world);
     put_formations(disc, world, formations);
     put_bars(disc, world, bars);
+    put_numbers(disc, world);
+    put_set_pieces(disc, world);
     return disc;
 }
 

@@ -18,5 +18,9 @@ void put_links(DemoDisc& disc, const World& world);
 void put_formations(DemoDisc& disc, const World& world, Random& random);
 /// Strength bars of the same teams but the default one, 3 to 9.
 void put_bars(DemoDisc& disc, const World& world, Random& random);
+/// Shirt numbers in both packings; those of the all-star and classic teams are packed behind the nations'.
+void put_numbers(DemoDisc& disc, const World& world);
+/// Set-piece takers and captains of all teams.
+void put_set_pieces(DemoDisc& disc, const World& world);
 
 }  // namespace kalco::demo

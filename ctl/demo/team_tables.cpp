@@ -4,7 +4,9 @@
 #include "ctl/demo/tables.h"
 #include "formations/bars.h"
 #include "formations/formation_facts.h"
+#include "kickers/set_pieces.h"
 #include "league/links.h"
+#include "numbers/number_record.h"
 
 namespace kalco::demo {
 namespace {
@@ -23,6 +25,36 @@ std::string formation_of(const Squad& squad, Random& random) {
         for (char& value : y) value = static_cast<char>(value + random.between(-3, 3));
     }
     return bytes_of_digits(squad.module->roles) + x + y;
+}
+
+std::vector<std::string> entries_of(const Squad& squad) {
+    std::vector<std::string> entries;
+    for (const int number : squad.numbers) entries.push_back(number_entry(number));
+    return entries;
+}
+
+/// Players who fit a set piece best, the goalkeeper only as the captain.
+std::string set_pieces_of(const Squad& squad) {
+    const auto best = [&squad](auto&& worth) {
+        const auto first = squad.players.begin() + 1;
+        const auto last = squad.players.begin() + set_piece_rows;
+        const auto found = std::max_element(
+            first, last, [&](const Player& a, const Player& b) { return worth(a.values) < worth(b.values); });
+        return static_cast<char>(found - squad.players.begin());
+    };
+    const char short_kicks = best([](const PlayerValues& player) { return player.skill(Skill::curve); });
+    const char long_kicks = best([](const PlayerValues& player) { return player.skill(Skill::shot_power); });
+    const char right_corners = best([](const PlayerValues& player) {
+        return player.skill(Skill::curve) + player.skill(Skill::passing) + (player.foot == 1 ? 2 : 0);
+    });
+    const char left_corners = best([](const PlayerValues& player) {
+        return player.skill(Skill::curve) + player.skill(Skill::passing) + (player.foot == 0 ? 2 : 0);
+    });
+    const char penalties = best([](const PlayerValues& player) { return player.skill(Skill::shot_accuracy); });
+    const auto oldest = std::max_element(squad.players.begin(), squad.players.begin() + set_piece_rows,
+                                         [](const Player& a, const Player& b) { return a.values.age < b.values.age; });
+    const char captain = static_cast<char>(oldest - squad.players.begin());
+    return {short_kicks, long_kicks, right_corners, left_corners, penalties, captain};
 }
 
 }  // namespace
@@ -54,6 +86,29 @@ void put_bars(DemoDisc& disc, const World& world, Random& random) {
         }
         disc.put(field_at(BarsBase + bar_count * team, bar_count), bars);
     }
+}
+
+void put_numbers(DemoDisc& disc, const World& world) {
+    for (int row = 0; row <= default_row; ++row) {
+        const Squad& squad = row == default_row ? world.default_team : squad_of(world, team_of_row(row));
+        const bool nation = row < first_club_row;
+        const std::vector<std::string> entries = entries_of(squad);
+        disc.put(number_field(row),
+                 bytes_of_digits(nation ? pack_national_numbers(entries) : pack_club_numbers(entries)));
+    }
+    for (int team = nation_count; team < roster_team_count; ++team) {
+        const Squad& squad = squad_of(world, team);
+        disc.put(field_at(NationalNumberBase + national_number_bytes * team, national_number_bytes),
+                 bytes_of_digits(pack_national_numbers(entries_of(squad))));
+    }
+}
+
+void put_set_pieces(DemoDisc& disc, const World& world) {
+    for (int team = 0; team <= last_club; ++team) {
+        disc.put(field_at(SetPieceBase + set_piece_bytes * team, set_piece_bytes),
+                 set_pieces_of(squad_of(world, team)));
+    }
+    disc.put(set_piece_field(default_row), set_pieces_of(world.default_team));
 }
 
 }  // namespace kalco::demo
