@@ -110,8 +110,11 @@ Player make_player(Sound sound, Role role, int strength, int number, Random& ran
     values.role = static_cast<std::int64_t>(role);
     values.number = number;
     values.in_role = !random.chance(12);
-    values.age = std::clamp(17 + random.below(9) + random.below(11), lowest_age, highest_age);
-    values.height = std::clamp(facts.usual_height + random.between(-6, 4) + random.between(-4, 4), 160, 203);
+    // One draw a statement: the order of two draws in one expression is the compiler's.
+    values.age = 17 + random.below(9);
+    values.age += random.below(11);
+    values.height = facts.usual_height + random.between(-6, 4);
+    values.height += random.between(-4, 4);
     values.build = std::clamp<std::int64_t>((values.height - 160) / 6 + random.between(-1, 1), 0, 7);
     set_skills(values, facts, strength, random);
     set_looks(values, sound, random);
