@@ -4,6 +4,7 @@
 #include <exception>
 #include <iostream>
 
+#include "ctl/demo_command.h"
 #include "ctl/script/script_options.h"
 #include "ctl/script/script_runner.h"
 #include "editor.h"
@@ -22,8 +23,11 @@ int run(int argc, char** argv) {
     app.set_version_flag("--version", KALCO_VERSION);
     kalco::script::ScriptOptions script_options;
     const CLI::App& script = kalco::script::add_script_command(app, script_options);
+    kalco::demo::DemoOptions demo_options;
+    const CLI::App& demo = kalco::demo::add_demo_command(app, demo_options);
     CLI11_PARSE(app, argc, argv);
     if (script.parsed()) return kalco::script::play_script(script_options, run_on_model);
+    if (demo.parsed()) return kalco::demo::make_demo(demo_options);
     return 0;
 }
 

@@ -1,0 +1,114 @@
+#include <algorithm>
+
+#include "codec/hextext.h"
+#include "ctl/demo/tables.h"
+#include "formations/bars.h"
+#include "formations/formation_facts.h"
+#include "kickers/set_pieces.h"
+#include "league/links.h"
+#include "numbers/number_record.h"
+
+namespace kalco::demo {
+namespace {
+
+/// By team of cboSeqSQ, without the default list.
+const Squad& squad_of(const World& world, int team) {
+    return is_club(team) ? world.clubs[static_cast<std::size_t>(team - first_club)].squad
+                         : world.squads[static_cast<std::size_t>(team)];
+}
+
+std::string formation_of(const Squad& squad, Random& random) {
+    std::string x = bytes_of_digits(squad.module->x);
+    std::string y = bytes_of_digits(squad.module->y);
+    if (random.chance(40)) {
+        for (char& value : x) value = static_cast<char>(value + random.between(-1, 2));
+        for (char& value : y) value = static_cast<char>(value + random.between(-3, 3));
+    }
+    return bytes_of_digits(squad.module->roles) + x + y;
+}
+
+std::vector<std::string> entries_of(const Squad& squad) {
+    std::vector<std::string> entries;
+    for (const int number : squad.numbers) entries.push_back(number_entry(number));
+    return entries;
+}
+
+/// Players who fit a set piece best, the goalkeeper only as the captain.
+std::string set_pieces_of(const Squad& squad) {
+    const auto best = [&squad](auto&& worth) {
+        const auto first = squad.players.begin() + 1;
+        const auto last = squad.players.begin() + set_piece_rows;
+        const auto found = std::max_element(
+            first, last, [&](const Player& a, const Player& b) { return worth(a.values) < worth(b.values); });
+        return static_cast<char>(found - squad.players.begin());
+    };
+    const char short_kicks = best([](const PlayerValues& player) { return player.skill(Skill::curve); });
+    const char long_kicks = best([](const PlayerValues& player) { return player.skill(Skill::shot_power); });
+    const char right_corners = best([](const PlayerValues& player) {
+        return player.skill(Skill::curve) + player.skill(Skill::passing) + (player.foot == 1 ? 2 : 0);
+    });
+    const char left_corners = best([](const PlayerValues& player) {
+        return player.skill(Skill::curve) + player.skill(Skill::passing) + (player.foot == 0 ? 2 : 0);
+    });
+    const char penalties = best([](const PlayerValues& player) { return player.skill(Skill::shot_accuracy); });
+    const auto oldest = std::max_element(squad.players.begin(), squad.players.begin() + set_piece_rows,
+                                         [](const Player& a, const Player& b) { return a.values.age < b.values.age; });
+    const char captain = static_cast<char>(oldest - squad.players.begin());
+    return {short_kicks, long_kicks, right_corners, left_corners, penalties, captain};
+}
+
+}  // namespace
+
+void put_links(DemoDisc& disc, const World& world) {
+    for (int number = 0; number < club_count; ++number) {
+        std::string digits;
+        for (const std::string& code : world.clubs[static_cast<std::size_t>(number)].codes) digits += code;
+        disc.put(link_table_field(number), bytes_of_digits(digits));
+    }
+}
+
+void put_formations(DemoDisc& disc, const World& world, Random& random) {
+    for (int team = 0; team <= last_club; ++team) {
+        disc.put(field_at(FormationBase + formation_bytes * team, formation_bytes),
+                 formation_of(squad_of(world, team), random));
+    }
+    disc.put(formation_field(default_row), formation_of(world.default_team, random));
+}
+
+void put_bars(DemoDisc& disc, const World& world, Random& random) {
+    constexpr int lowest = 3;
+    constexpr int highest = 9;
+    for (int team = 0; team <= last_club; ++team) {
+        std::string bars;
+        for (int bar = 0; bar < bar_count; ++bar) {
+            const int value = 4 + squad_of(world, team).strength + random.between(-1, 1);
+            bars += static_cast<char>(std::clamp(value, lowest, highest));
+        }
+        disc.put(field_at(BarsBase + bar_count * team, bar_count), bars);
+    }
+}
+
+void put_numbers(DemoDisc& disc, const World& world) {
+    for (int row = 0; row <= default_row; ++row) {
+        const Squad& squad = row == default_row ? world.default_team : squad_of(world, team_of_row(row));
+        const bool nation = row < first_club_row;
+        const std::vector<std::string> entries = entries_of(squad);
+        disc.put(number_field(row),
+                 bytes_of_digits(nation ? pack_national_numbers(entries) : pack_club_numbers(entries)));
+    }
+    for (int team = nation_count; team < roster_team_count; ++team) {
+        const Squad& squad = squad_of(world, team);
+        disc.put(field_at(NationalNumberBase + national_number_bytes * team, national_number_bytes),
+                 bytes_of_digits(pack_national_numbers(entries_of(squad))));
+    }
+}
+
+void put_set_pieces(DemoDisc& disc, const World& world) {
+    for (int team = 0; team <= last_club; ++team) {
+        disc.put(field_at(SetPieceBase + set_piece_bytes * team, set_piece_bytes),
+                 set_pieces_of(squad_of(world, team)));
+    }
+    disc.put(set_piece_field(default_row), set_pieces_of(world.default_team));
+}
+
+}  // namespace kalco::demo

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "ctl/demo/players.h"
+#include "formations/formation_facts.h"
+
+namespace kalco::demo {
+
+/// A team as it plays.
+struct Squad {
+    int strength = 0;  ///< 0 to 4.
+    const ModuleRow* module = nullptr;
+    std::array<int, roster_players> numbers{};
+    std::array<Player, roster_players> players;
+};
+
+/// A club plays with players who stand elsewhere.
+struct Club {
+    Squad squad;
+    std::array<std::string, roster_players> codes;
+};
+
+/// All that was invented: what the tables of the disc are filled from, so that they fit together.
+struct World {
+    std::array<Squad, roster_team_count> squads;  ///< By team: nations, all-star teams, classic teams.
+    std::vector<Player> pool;                     ///< The players outside all rosters, by row.
+    std::array<Club, club_count> clubs;
+    Squad default_team;  ///< The default Master League team, whose players stand in the pool.
+};
+
+World make_world(std::uint64_t seed);
+
+}  // namespace kalco::demo

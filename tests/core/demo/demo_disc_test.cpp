@@ -1,0 +1,298 @@
+#include "ctl/demo/demo_disc.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <set>
+
+#include "codec/hextext.h"
+#include "codec/latin1.h"
+#include "codec/letters.h"
+#include "ctl/demo/demo_image.h"
+#include "formations/bars.h"
+#include "formations/formation.h"
+#include "kickers/set_pieces.h"
+#include "league/links.h"
+#include "league/pool_codes.h"
+#include "numbers/number_record.h"
+#include "players/record.h"
+#include "players/roster.h"
+#include "support/memory_storage.h"
+#include "teams/catalogue.h"
+
+namespace kalco {
+namespace {
+
+std::string raw_bytes(const demo::DemoDisc& disc) {
+    std::string bytes;
+    for (std::uint32_t number = 0; number < disc.sectors(); ++number) {
+        const RawSector sector = disc.sector(number);
+        bytes.append(sector.begin(), sector.end());
+    }
+    return bytes;
+}
+
+/// The image of seed 1, open.
+class DemoImage : public testing::Test {
+protected:
+    static void SetUpTestSuite() { bytes = new std::string(raw_bytes(demo::make_demo_disc(1))); }
+    static void TearDownTestSuite() { delete bytes; }
+
+    DemoImage() {
+        disc.bytes = *bytes;
+        image.open("disc.bin");
+    }
+
+    test::Disc disc;
+    Image image{test::opener_of(disc)};
+    static inline std::string* bytes = nullptr;
+};
+
+int byte_of(char value) {
+    return static_cast<unsigned char>(value);
+}
+
+Words words_of(const std::string& record) {
+    const auto groups = groups_of_entry(hex_line(record));
+    return {word_of_group(groups[0]), word_of_group(groups[1]), word_of_group(groups[2])};
+}
+
+/// The values of the fields that the editor shows for a record; fails where it shows none.
+PlayerValues read_back(const DecodedPlayer& player) {
+    PlayerValues values;
+    values.role = value_of(role_texts, player.role.value());
+    values.hair_style = value_of(hair_style_texts, player.hair_style.value());
+    values.hair_colour = value_of(hair_colour_texts, player.hair_colour.value());
+    values.beard_style = value_of(beard_texts, player.beard_style);
+    values.beard_colour = value_of(beard_texts, player.beard_colour);
+    values.height = std::stoi(player.height.value());
+    values.number = std::stoi(player.number.value());
+    values.in_role = player.out_of_role.value() == "No";
+    values.skin = value_of(skin_texts, player.skin.value());
+    values.build = value_of(build_texts, player.build.value());
+    values.age = std::stoi(player.age.value());
+    values.boots = value_of(boots_texts, player.boots.value());
+    values.foot = value_of(foot_texts, player.foot.value());
+    for (std::size_t k = 0; k < skill_count; ++k) values.skills[k] = std::stoi(player.skills[k].value());
+    return values;
+}
+
+void expect_legal(const std::string& record, const std::string& where) {
+    const Words words = words_of(record);
+    const DecodedPlayer decoded = decode_player(words);
+    ASSERT_FALSE(decoded.stopped) << where;
+    const PlayerValues values = read_back(decoded);
+    EXPECT_EQ(pack_player(values), words) << where;
+    EXPECT_GE(values.height, lowest_height) << where;
+    EXPECT_LE(values.height, highest_height) << where;
+    for (const std::int64_t skill : values.skills) {
+        EXPECT_GE(skill, lowest_skill) << where;
+        EXPECT_LE(skill, highest_skill) << where;
+    }
+}
+
+TEST_F(DemoImage, HasValidSectorsBeyondTheLastTable) {
+    ASSERT_EQ(bytes->size() % sector_bytes, 0U);
+    EXPECT_GE(bytes->size(), 5653000U + 2U * sector_bytes);
+    for (std::size_t number = 0; number < bytes->size() / sector_bytes; ++number) {
+        RawSector sector{};
+        std::copy_n(bytes->begin() + static_cast<std::ptrdiff_t>(number * sector_bytes), sector_bytes, sector.begin());
+        ASSERT_TRUE(sector_is_valid(sector)) << number;
+        ASSERT_EQ(sector_address(sector), number);
+    }
+}
+
+TEST_F(DemoImage, NamesEveryTeamInEveryTable) {
+    for (int team = 0; team < team_count; ++team) {
+        const std::string row(team_facts[static_cast<std::size_t>(team)].row);
+        const std::string short_name = image.read(short_name_position(team), short_name_bytes + 1);
+        EXPECT_EQ(short_name[0], upper(row)[0]);
+        EXPECT_TRUE(std::all_of(short_name.begin(), short_name.end() - 1, [](char c) { return c >= 'A' && c <= 'Z'; }));
+        EXPECT_EQ(short_name.back(), '\0');
+        const NameEntries entries = Call_Name(team);
+        for (std::size_t table = 0; table < entries.size(); ++table) {
+            if (!entries[table]) continue;
+            const bool split = table == 1 && team == split_t2_team;
+            const Pieces field = split ? split_t2_name : field_from(entries[table]->position, entries[table]->length);
+            const std::string name(until_zero(image.read(field)));
+            EXPECT_FALSE(name.empty()) << row;
+            EXPECT_EQ(upper(row).substr(0, name.size()), name) << table;
+            const ImagePos behind = field[field.size() - 1].position + field[field.size() - 1].bytes;
+            EXPECT_EQ(image.read(behind, 1), std::string(1, '\0')) << row << " T" << table + 1;
+        }
+    }
+    for (int list_row = 0; list_row < default_row; ++list_row) {
+        const std::string name(trim(read_full_width_name_of_row(image, list_row)));
+        const std::string row(team_facts[static_cast<std::size_t>(team_of_row(list_row))].row);
+        EXPECT_GE(name.size(), 3U) << row;
+        EXPECT_EQ(row.substr(0, name.size()), name);
+    }
+}
+
+TEST_F(DemoImage, HoldsLegalPlayersOnly) {
+    for (int team = 0; team <= default_list_team; ++team) {
+        for (int player = 0; player < player_count(team); ++player) {
+            const std::string where = std::to_string(team) + '/' + std::to_string(player);
+            const std::string name = read_player_name(image, player_name_field(team, player));
+            EXPECT_GE(name.size(), 3U) << where;
+            EXPECT_LE(name.size(), 10U) << where;
+            expect_legal(image.read(player_record_field(team, player)), where);
+            if (has_cost(team)) {
+                const int cost = byte_of(image.read(cost_position(team, player), 1)[0]);
+                EXPECT_TRUE(cost >= 1 && cost <= highest_cost) << where << ": " << cost;
+            }
+        }
+    }
+    expect_legal(image.read(2189421, player_record_bytes), "the slot of no player");
+}
+
+TEST_F(DemoImage, VariesItsPlayers) {
+    std::set<std::string> records;
+    std::set<std::string> names;
+    std::set<std::string> roles;
+    for (int team = 0; team < roster_team_count; ++team) {
+        for (int player = 0; player < roster_players; ++player) {
+            const std::string record = image.read(roster_record_field(team, player));
+            records.insert(record);
+            names.insert(read_player_name(image, roster_name_field(team, player)));
+            roles.insert(decode_player(words_of(record)).role.value());
+        }
+        const std::string keeper = image.read(roster_record_field(team, 0));
+        EXPECT_EQ(decode_player(words_of(keeper)).role, "Portiere") << team;
+    }
+    EXPECT_GT(records.size(), 1380U);
+    EXPECT_GT(names.size(), 1000U);
+    EXPECT_EQ(roles.size(), role_texts.size());
+}
+
+TEST_F(DemoImage, GivesEveryTeamAFormation) {
+    for (int row = 0; row <= default_row; ++row) {
+        const std::string record = image.read(formation_field(row));
+        for (std::size_t k = 0; k < outfield_players; ++k) {
+            EXPECT_NE(role_label(hex_digits(record.substr(k, 1))), unknown_role_label) << row;
+            EXPECT_GT(byte_of(record[outfield_players + k]), 5) << row;
+            EXPECT_LT(byte_of(record[outfield_players + k]), pitch_x_steps) << row;
+            EXPECT_GT(byte_of(record[2 * outfield_players + k]), 5) << row;
+            EXPECT_LT(byte_of(record[2 * outfield_players + k]), pitch_y_steps - 5) << row;
+        }
+    }
+    EXPECT_EQ(hex_digits(image.read(2306857, outfield_players)), module_named("4-4-2B")->roles);
+    // The nine teams without a row have theirs between the nations' and the clubs'.
+    for (ImagePos position = 2305625; position < 2305895; position += formation_bytes) {
+        EXPECT_NE(role_label(hex_digits(image.read(position, 1))), unknown_role_label) << position;
+    }
+}
+
+TEST_F(DemoImage, PutsPlayersWhereTheirFormationWantsThem) {
+    for (int team = 0; team < nation_count; ++team) {
+        if (team == shifted_team) continue;
+        const std::string record = image.read(formation_field(team));
+        for (int k = 0; k < outfield_players; ++k) {
+            const std::string_view label = role_label(hex_digits(record.substr(static_cast<std::size_t>(k), 1)));
+            const auto role = decode_player(words_of(image.read(roster_record_field(team, k + 1)))).role.value();
+            EXPECT_EQ(label.substr(0, 2) == "CA", role == "Centravanti") << team << ' ' << k;
+            EXPECT_EQ(label.substr(0, 3) == "TER", role == "Terzino") << team << ' ' << k;
+        }
+    }
+}
+
+TEST_F(DemoImage, FillsTheBars) {
+    for (int row = 0; row < bar_teams; ++row) {
+        for (const char bar : image.read(bars_field(row))) EXPECT_TRUE(bar >= 3 && bar <= 9) << row;
+    }
+    for (const char bar : image.read(2328759, 45)) EXPECT_TRUE(bar >= 3 && bar <= 9);
+}
+
+TEST_F(DemoImage, NumbersEveryTeamWithoutRepeats) {
+    for (int row = 0; row <= default_row; ++row) {
+        const std::string record = image.read(number_field(row));
+        const std::vector<std::string> entries =
+            row < first_club_row ? decode_national_numbers(record) : decode_club_numbers(record);
+        ASSERT_EQ(entries.size(), 23U);
+        EXPECT_EQ(entries[0], "01") << row;
+        EXPECT_EQ(std::set<std::string>(entries.begin(), entries.end()).size(), 23U) << row;
+        for (const std::string& entry : entries) EXPECT_EQ(entry.size(), 2U) << row;
+        // A nation's players carry the number in their records too.
+        if (row >= first_club_row || row == shifted_team) continue;
+        for (int player = 0; player < roster_players; ++player) {
+            const DecodedPlayer decoded = decode_player(words_of(image.read(roster_record_field(row, player))));
+            EXPECT_EQ(std::stoi(decoded.number.value()), std::stoi(entries[static_cast<std::size_t>(player)]));
+        }
+    }
+    EXPECT_EQ(image.read(2014505, 1), std::string(1, '\0'));
+}
+
+TEST_F(DemoImage, AssignsSetPiecesToTheFirstEleven) {
+    for (int row = 0; row <= default_row; ++row) {
+        for (const char pick : image.read(set_piece_field(row))) EXPECT_LT(byte_of(pick), set_piece_rows) << row;
+    }
+    for (const char pick : image.read(2329629, set_piece_bytes)) EXPECT_LT(byte_of(pick), set_piece_rows);
+}
+
+TEST_F(DemoImage, LinksClubsToPlayersThatExist) {
+    const std::vector<std::string> places = roster_codes();
+    const std::vector<std::string> rows = pool_codes();
+    int of_the_pool = 0;
+    int whole_teams = 0;
+    std::vector<std::string> unknown;
+    for (int club = 0; club < club_count; ++club) {
+        const std::string digits = hex_digits(image.read(link_table_field(club)));
+        for (int team = 0; team < roster_team_count; ++team) whole_teams += digits == links_to_team(team) ? 1 : 0;
+        std::set<std::string> codes;
+        for (std::size_t place = 0; place < digits.size(); place += 4) {
+            const std::string code = digits.substr(place, 4);
+            codes.insert(code);
+            const auto row = std::find(rows.begin(), rows.end(), code);
+            if (row != rows.end()) {
+                ++of_the_pool;
+                EXPECT_EQ(std::count(DefaultSlots.begin(), DefaultSlots.end(), row - rows.begin()), 0) << code;
+            } else if (std::find(places.begin(), places.end(), code) == places.end()) {
+                unknown.push_back(code);
+            }
+        }
+        EXPECT_EQ(codes.size(), 23U) << club;
+    }
+    EXPECT_GT(of_the_pool, 150);
+    EXPECT_EQ(whole_teams, 4);
+    EXPECT_EQ(unknown, std::vector<std::string>{"2517"});
+}
+
+TEST(DemoSeeds, GiveTheSameBytesForever) {
+    std::uint64_t hash = 0xCBF29CE484222325U;
+    for (const char byte : raw_bytes(demo::make_demo_disc(1))) {
+        hash = (hash ^ static_cast<unsigned char>(byte)) * 0x100000001B3U;
+    }
+    EXPECT_EQ(hash, 0x2F25844989C7A8B9U);
+}
+
+TEST(DemoSeeds, GiveOtherPlayersEach) {
+    test::Disc first{raw_bytes(demo::make_demo_disc(1))};
+    test::Disc second{raw_bytes(demo::make_demo_disc(2))};
+    Image image(test::opener_of(first));
+    Image other(test::opener_of(second));
+    image.open("1");
+    other.open("2");
+    int same = 0;
+    for (int player = 0; player < roster_players; ++player) {
+        same += image.read(roster_record_field(0, player)) == other.read(roster_record_field(0, player)) ? 1 : 0;
+    }
+    EXPECT_LT(same, 3);
+    EXPECT_EQ(read_table_name(image, 0), read_table_name(other, 0));
+}
+
+TEST(DemoDisc, RefusesWhatDoesNotFit) {
+    demo::DemoDisc disc(2);
+    EXPECT_THROW(disc.put(2 * user_bytes - 1, "ab"), std::out_of_range);
+    EXPECT_THROW(disc.put(field_at(10, 2), "abc"), std::length_error);
+}
+
+TEST(DemoDisc, PutsAFieldOverASectorEnd) {
+    demo::DemoDisc disc(2);
+    disc.put(field_at(user_bytes - 2, 5), "abc");
+    EXPECT_EQ(disc.sector(0)[user_start + user_bytes - 1], 'b');
+    EXPECT_EQ(disc.sector(1)[user_start], 'c');
+    EXPECT_EQ(disc.sector(1)[user_start + 1], 0);
+}
+
+}  // namespace
+}  // namespace kalco
