@@ -44,7 +44,7 @@ void enable_by_class(frmKalco& form, int team) {
     const bool club = is_club(team);
     form.cmdName.set_enabled(!default_list);
     form.cmdImpML.set_enabled(default_list);
-    form.cmdExp.set_enabled(!club);
+    form.cmdExp.set_enabled(!club && !default_list);
     form.cmdSaveCar.set_enabled(!club);
     form.cmdImp.set_enabled(!club && !default_list);
     form.listDat.set_enabled(!club);
