@@ -1,0 +1,108 @@
+#include "support/editor_run.h"
+
+#include <algorithm>
+#include <sstream>
+#include <utility>
+
+namespace kalco::test {
+namespace {
+
+/// Remembers the writes that reach the storage below it.
+class LoggedStorage final : public Storage {
+public:
+    LoggedStorage(std::unique_ptr<Storage> below, std::vector<EditorRun::Write>& log)
+        : below_(std::move(below)),
+          log_(log) {}
+
+    std::string read(std::int64_t offset, std::size_t bytes) override { return below_->read(offset, bytes); }
+    void write(std::int64_t offset, std::string_view bytes) override {
+        if (bytes.empty()) return;
+        below_->write(offset, bytes);
+        log_.push_back({offset + 1, std::string(bytes)});
+    }
+    void flush() override { below_->flush(); }
+
+private:
+    std::unique_ptr<Storage> below_;
+    std::vector<EditorRun::Write>& log_;
+};
+
+}  // namespace
+
+EditorRun::EditorRun(const std::string& image)
+    : editor(platform, [this](const std::string& path) -> std::unique_ptr<Storage> {
+          return std::make_unique<LoggedStorage>(opener_of(disc)(path), log);
+      }) {
+    disc.bytes = image;
+    platform.home = home.path();
+    platform.choices.push_back("disc.bin");
+    form.slots.NAMES_GIOC_NAZ = [this] { ++NAMES_GIOC_NAZ; };
+    form.slots.NAME_NO_CONTACT = [this] { ++NAME_NO_CONTACT; };
+    form.slots.CONTR_NAME_NC = [this] { ++CONTR_NAME_NC; };
+    form.slots.NEW_NAME_ML = [this] { ++NEW_NAME_ML; };
+    user::start(form);
+    NAMES_GIOC_NAZ = NAME_NO_CONTACT = CONTR_NAME_NC = 0;
+    disc.flushes = 0;
+}
+
+void EditorRun::pick_text(ComboBox& combo, const std::string& text) {
+    const auto found = std::find(combo.items().begin(), combo.items().end(), text);
+    ASSERT_NE(found, combo.items().end()) << combo.name() << " has no " << text;
+    EXPECT_EQ(user::pick(form, combo, static_cast<int>(found - combo.items().begin())), user::Outcome::done);
+}
+
+void EditorRun::import(CommandButton& button, const std::string& contents) {
+    platform.choices.push_back(home.write("import.DAT", contents));
+    click(button);
+}
+
+std::vector<std::string> EditorRun::told() {
+    std::vector<std::string> texts;
+    for (const FakePlatform::Message& message : platform.messages) texts.push_back(message.text);
+    platform.messages.clear();
+    return texts;
+}
+
+::testing::AssertionResult same_image(const std::string& actual, const std::string& expected) {
+    if (actual == expected) return ::testing::AssertionSuccess();
+    const auto positions = differences(expected, actual);
+    std::ostringstream text;
+    text << positions.size() << " bytes differ, at";
+    for (std::size_t i = 0; i < std::min<std::size_t>(positions.size(), 24); ++i) text << ' ' << positions[i];
+    return ::testing::AssertionFailure() << text.str();
+}
+
+int error_of(const std::function<void()>& steps) {
+    try {
+        steps();
+    } catch (const RuntimeError& failure) {
+        return failure.number();
+    }
+    return 0;
+}
+
+void expect_every_failing_write_to_stop(const std::function<void(EditorRun&)>& prepare,
+                                        const std::function<void(EditorRun&)>& save, std::size_t least_writes) {
+    EditorRun whole;
+    prepare(whole);
+    const std::string before = whole.disc.bytes;
+    const std::size_t earlier = whole.log.size();
+    save(whole);
+    const std::size_t writes = whole.log.size() - earlier;
+    EXPECT_GE(writes, least_writes);
+    std::string expected = before;
+    for (std::size_t n = 0; n < writes; ++n) {
+        EditorRun run;
+        prepare(run);
+        run.told();
+        run.disc.failing_write = run.disc.writes + static_cast<int>(n) + 1;
+        run.disc.failure = n % 2 == 0 ? error::disk_full : error::device_io;
+        EXPECT_EQ(error_of([&] { save(run); }), run.disc.failure) << "write " << n + 1;
+        EXPECT_TRUE(same_image(run.disc.bytes, expected)) << "write " << n + 1;
+        EXPECT_TRUE(run.told().empty()) << "write " << n + 1;
+        put(expected, whole.log[earlier + n].position, whole.log[earlier + n].bytes);
+    }
+    EXPECT_TRUE(same_image(whole.disc.bytes, expected));
+}
+
+}  // namespace kalco::test

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "editor.h"
+#include "support/fake_platform.h"
+#include "support/filled_disc.h"
+#include "support/memory_storage.h"
+#include "support/temporary_home.h"
+#include "window/user.h"
+
+namespace kalco::test {
+
+/// The whole editor on an image in memory, started and driven as a user drives it.
+class EditorRun {
+public:
+    struct Write {
+        std::int64_t position;
+        std::string bytes;
+    };
+
+    explicit EditorRun(const std::string& image = filled_image());
+
+    void choose_team(int team) { EXPECT_EQ(user::pick(form, form.cboSeqSQ, team), user::Outcome::done); }
+    void choose_player(int row) { EXPECT_EQ(user::pick(form, form.listDat, row), user::Outcome::done); }
+    void type(TextBox& box, const std::string& text) { EXPECT_EQ(user::type(form, box, text), user::Outcome::done); }
+    void click(Control& control) { EXPECT_EQ(user::click(form, control), user::Outcome::done); }
+    /// Picks the row of a text.
+    void pick_text(ComboBox& combo, const std::string& text);
+    /// A side file below the program's directory, chosen in the dialog that `button` shows.
+    void import(CommandButton& button, const std::string& contents);
+
+    /// The texts of the messages since the last call.
+    std::vector<std::string> told();
+    /// The positions and bytes of the writes so far, empty ones left out.
+    std::vector<Write> log;
+
+    Disc disc;
+    FakePlatform platform;
+    TemporaryHome home;
+    Editor editor;
+    frmKalco& form = editor.form;
+
+    // How often the routines of other folders ran.
+    int NAMES_GIOC_NAZ = 0;
+    int NAME_NO_CONTACT = 0;
+    int CONTR_NAME_NC = 0;
+    int NEW_NAME_ML = 0;
+};
+
+/// Compares two images byte for byte and tells the first positions that differ.
+::testing::AssertionResult same_image(const std::string& actual, const std::string& expected);
+
+/// The number of the run-time error that leaves the steps, 0 for none.
+int error_of(const std::function<void()>& steps);
+
+/// Runs the steps again and again with the first, second, ... write failing: each time the error is told, nothing
+/// behind the failing write reaches the image, and no message of success is shown.
+void expect_every_failing_write_to_stop(const std::function<void(EditorRun&)>& prepare,
+                                        const std::function<void(EditorRun&)>& save, std::size_t least_writes);
+
+}  // namespace kalco::test
