@@ -27,6 +27,13 @@ private:
     std::vector<EditorRun::Write>& log_;
 };
 
+void count_runs(Event& slot, int& count) {
+    slot = [routine = std::move(slot), &count] {
+        ++count;
+        if (routine) routine();
+    };
+}
+
 }  // namespace
 
 EditorRun::EditorRun(const std::string& image)
@@ -36,10 +43,10 @@ EditorRun::EditorRun(const std::string& image)
     disc.bytes = image;
     platform.home = home.path();
     platform.choices.push_back("disc.bin");
-    form.slots.NAMES_GIOC_NAZ = [this] { ++NAMES_GIOC_NAZ; };
-    form.slots.NAME_NO_CONTACT = [this] { ++NAME_NO_CONTACT; };
-    form.slots.CONTR_NAME_NC = [this] { ++CONTR_NAME_NC; };
-    form.slots.NEW_NAME_ML = [this] { ++NEW_NAME_ML; };
+    count_runs(form.slots.NAMES_GIOC_NAZ, NAMES_GIOC_NAZ);
+    count_runs(form.slots.NAME_NO_CONTACT, NAME_NO_CONTACT);
+    count_runs(form.slots.CONTR_NAME_NC, CONTR_NAME_NC);
+    count_runs(form.slots.NEW_NAME_ML, NEW_NAME_ML);
     user::start(form);
     NAMES_GIOC_NAZ = NAME_NO_CONTACT = CONTR_NAME_NC = 0;
     disc.flushes = 0;
