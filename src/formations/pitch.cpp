@@ -40,11 +40,11 @@ void place_marker(frmKalco& form, int marker, int x, int y) {
     form.lblGioc(marker).move(screen_left(x), screen_top(y));
 }
 
-/// Two columns of 20 digits.
+/// Two columns of 20 digits; missing ones count as 0.
 void place_markers(frmKalco& form, std::string_view x_digits, std::string_view y_digits) {
     for (int k = first_marker; k <= last_marker; ++k) {
-        const auto place = static_cast<std::size_t>(2 * (k - first_marker));
-        place_marker(form, k, hex_pair(x_digits.substr(place, 2)), hex_pair(y_digits.substr(place, 2)));
+        const auto place = static_cast<std::size_t>(2 * (k - first_marker) + 1);
+        place_marker(form, k, hex_pair(mid(x_digits, place, 2)), hex_pair(mid(y_digits, place, 2)));
     }
 }
 
