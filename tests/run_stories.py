@@ -22,6 +22,7 @@ from xml.sax.saxutils import quoteattr
 HERE = os.path.dirname(os.path.abspath(__file__))
 STORIES = os.path.join(HERE, "scripts")
 IMAGE = "disc.bin"
+OTHER_IMAGE = "other.bin"
 SECONDS = 300
 
 
@@ -56,7 +57,8 @@ def reject_unknown(what, given, known):
 def make_files(story, demo, work):
     """Lays out the files that the story starts from."""
     setup = read_json(os.path.join(story, "setup.json"), {})
-    reject_unknown("setup.json", setup, ("image", "seed", "bytes", "truncate", "patch", "remove", "status", "stderr"))
+    reject_unknown("setup.json", setup, ("image", "seed", "bytes", "truncate", "patch", "other", "remove", "status",
+                                           "stderr"))
     image = os.path.join(work, IMAGE)
     kind = setup.get("image", "demo")
     if kind == "demo":
@@ -73,6 +75,8 @@ def make_files(story, demo, work):
                 file.write(bytes.fromhex(patch["bytes"]))
             if "truncate" in setup:
                 file.truncate(setup["truncate"])
+    if setup.get("other", False):
+        shutil.copyfile(os.path.join(os.path.dirname(demo), OTHER_IMAGE), os.path.join(work, OTHER_IMAGE))
     before = os.path.join(story, "before")
     if os.path.isdir(before):
         shutil.copytree(before, work, dirs_exist_ok=True)
@@ -217,7 +221,10 @@ def main():
     names = options.stories or sorted(n for n in os.listdir(STORIES) if os.path.isdir(os.path.join(STORIES, n)))
     with tempfile.TemporaryDirectory(prefix="kalco-demo-") as home:
         demo = os.path.join(home, IMAGE)
-        subprocess.run([os.path.abspath(options.kalcoctl), "demo", demo], check=True, stdout=subprocess.DEVNULL)
+        kalcoctl = os.path.abspath(options.kalcoctl)
+        subprocess.run([kalcoctl, "demo", demo], check=True, stdout=subprocess.DEVNULL)
+        subprocess.run([kalcoctl, "demo", "--seed", "2", os.path.join(home, OTHER_IMAGE)], check=True,
+                       stdout=subprocess.DEVNULL)
         with concurrent.futures.ThreadPoolExecutor(options.jobs) as pool:
             results = list(pool.map(
                 lambda n: attempt(n, os.path.abspath(options.program), demo, options.write_expected), names))

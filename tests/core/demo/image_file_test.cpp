@@ -8,6 +8,7 @@
 #include <stdexcept>
 
 #include "ctl/demo/demo_image.h"
+#include "ctl/demo_command.h"
 
 namespace kalco::demo {
 namespace {
@@ -100,6 +101,24 @@ TEST_F(ImageFile, LeavesNothingBehindWhenAWriteFails) {
     std::signal(SIGXFSZ, handler);
     EXPECT_EQ(fs::file_size(path), 3U);
     EXPECT_EQ(files(), 1U);
+}
+
+TEST_F(ImageFile, IsMadeByTheCommandOnce) {
+    DemoOptions options;
+    options.image = path;
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(make_demo(options), 0);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+    const auto size = fs::file_size(path);
+    EXPECT_GT(size, 5653000U);
+
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(make_demo(options), 1);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "kalcoctl demo: " + path + " exists already; --force replaces it\n");
+    options.force = true;
+    EXPECT_EQ(make_demo(options), 0);
+    EXPECT_EQ(fs::file_size(path), size);
 }
 
 }  // namespace
