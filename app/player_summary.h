@@ -1,0 +1,18 @@
+#pragma once
+
+#include <functional>
+
+#include "app/widgets/record_view.h"
+#include "app/widgets/rows_view.h"
+#include "window/frmKalco.h"
+
+namespace kalco::app {
+
+/// The record of the player selected in a list of the transfers, out of the lines of its file; empty when nothing is
+/// selected or the line can't be read.
+PlayerSummary summary_of(const ListBox& names, const ListBox& lines);
+
+/// What listNC shows beside its rows: the nationality, the default players and those that were picked.
+std::function<RowNote(int row)> pool_notes(const frmKalco& form);
+
+}  // namespace kalco::app

@@ -1,0 +1,98 @@
+#include "app/qt_platform.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QStandardPaths>
+#include <utility>
+
+#include "app/text.h"
+
+namespace kalco::app {
+namespace {
+
+QMessageBox::Icon box_icon(Icon icon) {
+    switch (icon) {
+        case Icon::information: return QMessageBox::Information;
+        case Icon::warning: return QMessageBox::Warning;
+        case Icon::stop: break;
+    }
+    return QMessageBox::Critical;
+}
+
+/// The line breaks of the texts are CR LF, and in a few LF CR.
+QString with_line_feeds(QString text) {
+    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(QStringLiteral("\n\r"), QStringLiteral("\n"));
+    return text;
+}
+
+}  // namespace
+
+QWidget* QtPlatform::parent() const {
+    return window_ != nullptr && window_->isVisible() ? window_.data() : nullptr;
+}
+
+Answer QtPlatform::message(const std::string& text, Icon icon, Buttons buttons) {
+    if (before_box) before_box();
+    QMessageBox box(parent());
+    box.setIcon(box_icon(icon));
+    box.setWindowTitle(QCoreApplication::applicationName());
+    box.setTextFormat(Qt::PlainText);
+    box.setText(with_line_feeds(qt_text(text)));
+    if (buttons == Buttons::ok) {
+        box.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
+        box.exec();
+        return Answer::ok;
+    }
+    const auto* const yes = box.addButton(QStringLiteral("&S\u00EC"), QMessageBox::YesRole);
+    const auto* const no = box.addButton(QStringLiteral("&No"), QMessageBox::NoRole);
+    QPushButton* const cancel = box.addButton(QStringLiteral("Annulla"), QMessageBox::RejectRole);
+    box.setEscapeButton(cancel);
+    box.exec();
+    if (box.clickedButton() == yes) return Answer::yes;
+    return box.clickedButton() == no ? Answer::no : Answer::cancel;
+}
+
+std::string QtPlatform::open_dialog(const std::string& filter, const std::string& initial_directory) {
+    if (before_box) before_box();
+    if (const auto choice = std::exchange(next_choice_, std::nullopt)) return choice->toStdString();
+    QFileDialog dialog(parent());
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setOption(QFileDialog::ReadOnly);
+    dialog.setWindowTitle(QStringLiteral("Apri"));
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    dialog.setDirectory(QString::fromStdString(initial_directory));
+    dialog.setNameFilters(name_filters(qt_text(filter)));
+    dialog.setLabelText(QFileDialog::LookIn, QStringLiteral("Cerca in:"));
+    dialog.setLabelText(QFileDialog::FileName, QStringLiteral("&Nome file:"));
+    dialog.setLabelText(QFileDialog::FileType, QStringLiteral("Tipo di file:"));
+    dialog.setLabelText(QFileDialog::Accept, QStringLiteral("&Apri"));
+    dialog.setLabelText(QFileDialog::Reject, QStringLiteral("Annulla"));
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
+    return dialog.selectedFiles().constFirst().toStdString();
+}
+
+std::string QtPlatform::program_directory() const {
+    const QString beside = QCoreApplication::applicationDirPath();
+    if (QFileInfo(beside).isWritable()) return beside.toStdString();
+    const QString own = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    QDir().mkpath(own);
+    return own.toStdString();
+}
+
+QStringList name_filters(const QString& filter) {
+    QStringList result;
+    const QStringList parts = filter.split(u'|');
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        // "*.*" leaves out files without an extension here.
+        const QString pattern = parts[i + 1] == u"*.*" ? QStringLiteral("*") : parts[i + 1];
+        const QString label = parts[i].section(u'(', 0, 0).trimmed();
+        result << QStringLiteral("%1 (%2)").arg(label == pattern ? QStringLiteral("File") : label, pattern);
+    }
+    return result;
+}
+
+}  // namespace kalco::app

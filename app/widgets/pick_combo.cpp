@@ -1,0 +1,99 @@
+#include "app/widgets/pick_combo.h"
+
+#include <QAbstractItemView>
+#include <QStyleOptionComboBox>
+#include <QStylePainter>
+#include <QWheelEvent>
+
+#include "app/text.h"
+
+namespace kalco::app {
+
+PickCombo::PickCombo(QWidget* parent) : QComboBox(parent) {
+    setFocusPolicy(Qt::TabFocus);
+    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    setMaxVisibleItems(20);
+}
+
+void PickCombo::set_rows(const QStringList& rows) {
+    clear();
+    addItems(rows);
+}
+
+QStringList PickCombo::rows() const {
+    QStringList result;
+    for (int row = 0; row < count(); ++row) result << itemText(row);
+    return result;
+}
+
+void PickCombo::show_text(const QString& text, int row) {
+    text_ = text;
+    setCurrentIndex(row);
+    update();
+}
+
+void PickCombo::showPopup() {
+    // The rows are read whole even where the field is narrow.
+    view()->setMinimumWidth(view()->sizeHintForColumn(0) + view()->style()->pixelMetric(QStyle::PM_ScrollBarExtent));
+    QComboBox::showPopup();
+}
+
+void PickCombo::wheelEvent(QWheelEvent* event) {
+    if (hasFocus()) {
+        QComboBox::wheelEvent(event);
+    } else {
+        event->ignore();
+    }
+}
+
+QRect PickCombo::field_rect(const QStyleOptionComboBox& option) const {
+    return style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+}
+
+void PickCombo::paintEvent(QPaintEvent*) {
+    QStylePainter painter(this);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    option.currentIcon = {};
+    option.currentText = visible_text(text_);
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    paint_field(painter, option);
+}
+
+void PickCombo::paint_field(QStylePainter& painter, QStyleOptionComboBox& option) {
+    option.currentText = fontMetrics().elidedText(option.currentText, Qt::ElideRight, field_rect(option).width() - 4);
+    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+}
+
+QColor skill_colour(double level) {
+    return QColor::fromHslF(static_cast<float>(0.06 + 0.32 * level), 0.62F, 0.48F);
+}
+
+void SkillCombo::paint_field(QStylePainter& painter, QStyleOptionComboBox& option) {
+    PickCombo::paint_field(painter, option);
+    constexpr int lowest = 12;
+    constexpr int steps = 8;
+    bool is_number = false;
+    const int skill = shown_text().toInt(&is_number);
+    if (!is_number || skill < lowest) return;
+    const int reached = std::min(skill - lowest + 1, steps);
+
+    QRectF area = field_rect(option).adjusted(fontMetrics().horizontalAdvance(QStringLiteral("00")) + 14, 0, -6, 0);
+    const double height = std::min(8.0, area.height() / 2);
+    area = QRectF(area.left(), area.center().y() - height / 2, area.width(), height);
+    if (area.width() < steps) return;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    QColor track = palette().color(QPalette::ButtonText);
+    track.setAlphaF(0.12F);
+    const double step = area.width() / steps;
+    for (int i = 0; i < steps; ++i) {
+        const QRectF cell(area.left() + i * step, area.top(), step - 2, area.height());
+        QColor colour = i < reached ? skill_colour((reached - 1.0) / (steps - 1)) : track;
+        if (!isEnabled()) colour.setAlphaF(colour.alphaF() * 0.4F);
+        painter.setBrush(colour);
+        painter.drawRoundedRect(cell, 2, 2);
+    }
+}
+
+}  // namespace kalco::app

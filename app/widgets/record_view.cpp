@@ -1,0 +1,82 @@
+#include "app/widgets/record_view.h"
+
+#include <QPainter>
+
+#include "app/text.h"
+#include "app/widgets/pick_combo.h"
+
+namespace kalco::app {
+namespace {
+
+constexpr int lowest_skill = 12;
+constexpr int skill_steps = 8;
+constexpr int skill_rows = 16;
+constexpr int fact_rows = 5;
+
+}  // namespace
+
+RecordView::RecordView(QWidget* parent) : QWidget(parent) {
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+}
+
+void RecordView::show_player(const PlayerSummary& player) {
+    player_ = player;
+    QStringList spoken = player.facts;
+    for (const auto& skill : player.skills) spoken << skill.name + u' ' + QString::number(skill.value);
+    setAccessibleDescription(spoken.join(QStringLiteral(", ")));
+    update();
+}
+
+QSize RecordView::sizeHint() const {
+    const int line = fontMetrics().height() + 2;
+    return {fontMetrics().averageCharWidth() * 27, line * (1 + fact_rows + skill_rows) + 20};
+}
+
+void RecordView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QColor ink = palette().color(QPalette::WindowText);
+    QColor faint = ink;
+    faint.setAlphaF(0.6F);
+    QRect area = rect().adjusted(8, 4, -4, -4);
+    if (player_.empty()) {
+        painter.setPen(faint);
+        painter.drawText(area, Qt::AlignCenter | Qt::TextWordWrap, tr("Scegli un giocatore per vederne i dati"));
+        return;
+    }
+    const int line = fontMetrics().height() + 2;
+    const auto next_line = [&area, line] {
+        const QRect row(area.left(), area.top(), area.width(), line);
+        area.setTop(area.top() + line);
+        return row;
+    };
+    QFont bold = font();
+    bold.setBold(true);
+    painter.setFont(bold);
+    painter.setPen(ink);
+    painter.drawText(next_line(), Qt::AlignLeft | Qt::AlignVCenter, visible_text(player_.name));
+    painter.setFont(font());
+    for (const QString& fact : player_.facts) {
+        painter.setPen(faint);
+        const QRect row = next_line();
+        painter.drawText(row, Qt::AlignLeft | Qt::AlignVCenter,
+                         fontMetrics().elidedText(fact, Qt::ElideRight, row.width()));
+    }
+    area.setTop(area.top() + 6);
+    for (const auto& skill : player_.skills) {
+        const QRect row = next_line();
+        painter.setPen(ink);
+        painter.drawText(row, Qt::AlignLeft | Qt::AlignVCenter, skill.name);
+        const int bar_width = row.width() / 3;
+        const int number_width = fontMetrics().horizontalAdvance(QStringLiteral("00")) + 6;
+        const QRect number(row.right() - bar_width - number_width, row.top(), number_width - 6, row.height());
+        painter.drawText(number, Qt::AlignRight | Qt::AlignVCenter, QString::number(skill.value));
+        const int reached = std::clamp(skill.value - lowest_skill + 1, 0, skill_steps);
+        const double full = bar_width * reached / static_cast<double>(skill_steps);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(skill_colour((std::max(reached, 1) - 1.0) / (skill_steps - 1)));
+        painter.drawRoundedRect(QRectF(row.right() - bar_width, row.center().y() - 3, full, 7), 3, 3);
+    }
+}
+
+}  // namespace kalco::app
