@@ -35,9 +35,11 @@ std::string utf8_of_latin1(std::string_view text) {
 }
 
 std::string contents(const std::string& path) {
-    if (std::error_code failure; std::filesystem::is_directory(path_of(path), failure)) {
-        throw RuntimeError(error::path_access);
-    }
+    // A directory, a pipe or a device is no side file, and some of them never end.
+    std::error_code failure;
+    const auto status = std::filesystem::status(path_of(path), failure);
+    if (status.type() == std::filesystem::file_type::not_found) throw RuntimeError(error::file_not_found);
+    if (!std::filesystem::is_regular_file(status)) throw RuntimeError(error::path_access);
     const File file(std::fopen(path.c_str(), "rb"));
     if (!file) throw RuntimeError(errno == ENOENT ? error::file_not_found : error::path_access);
     std::string text;

@@ -1,0 +1,28 @@
+// Any twelve bytes as a record: the decoder ends, and what it shows keeps to the least values of its fields.
+
+#include "codec/decimal.h"
+#include "codec/hextext.h"
+#include "fuzz/editor_desk.h"
+#include "players/record.h"
+
+using namespace kalco;
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    fuzz::Bytes bytes(data, size);
+    std::string record;
+    for (int i = 0; i < 12; ++i) record += static_cast<char>(bytes.next());
+    const auto groups = groups_of_entry(hex_line(record));
+    const Words words{word_of_group(groups[0]), word_of_group(groups[1]), word_of_group(groups[2])};
+    std::string digits;
+    for (const std::int64_t word : words) {
+        if (word != -1) digits += file_order_digits(word);
+    }
+    fuzz::require(digits.size() < 24 || digits == hex_digits(record));
+
+    const DecodedPlayer player = decode_player(words);
+    fuzz::require(number_of(player.number.value_or("0")) >= 1);
+    fuzz::require(number_of(player.height.value_or("0")) >= lowest_height);
+    fuzz::require(player.stopped == !player.foot.has_value());
+    for (const auto& skill : player.skills) fuzz::require(player.stopped || number_of(*skill) >= lowest_skill);
+    return 0;
+}
