@@ -36,9 +36,9 @@ std::vector<std::string> entries_of(const Squad& squad) {
 /// Players who fit a set piece best, the goalkeeper only as the captain.
 std::string set_pieces_of(const Squad& squad) {
     const auto best = [&squad](auto&& worth) {
-        const auto first = squad.players.begin() + 1;
-        const auto last = squad.players.begin() + set_piece_rows;
-        const auto found = std::max_element(
+        const auto* const first = squad.players.begin() + 1;
+        const auto* const last = squad.players.begin() + set_piece_rows;
+        const auto* const found = std::max_element(
             first, last, [&](const Player& a, const Player& b) { return worth(a.values) < worth(b.values); });
         return static_cast<char>(found - squad.players.begin());
     };
@@ -51,8 +51,9 @@ std::string set_pieces_of(const Squad& squad) {
         return player.skill(Skill::curve) + player.skill(Skill::passing) + (player.foot == 0 ? 2 : 0);
     });
     const char penalties = best([](const PlayerValues& player) { return player.skill(Skill::shot_accuracy); });
-    const auto oldest = std::max_element(squad.players.begin(), squad.players.begin() + set_piece_rows,
-                                         [](const Player& a, const Player& b) { return a.values.age < b.values.age; });
+    const auto* const oldest =
+        std::max_element(squad.players.begin(), squad.players.begin() + set_piece_rows,
+                         [](const Player& a, const Player& b) { return a.values.age < b.values.age; });
     const char captain = static_cast<char>(oldest - squad.players.begin());
     return {short_kicks, long_kicks, right_corners, left_corners, penalties, captain};
 }
