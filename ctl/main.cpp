@@ -37,7 +37,7 @@ int main(int argc, char** argv) {
     try {
         return run(argc, argv);
     } catch (const std::exception& failure) {
-        std::fprintf(stderr, "kalcoctl: %s\n", failure.what());
+        static_cast<void>(std::fprintf(stderr, "kalcoctl: %s\n", failure.what()));
         return EXIT_FAILURE;
     }
 }
