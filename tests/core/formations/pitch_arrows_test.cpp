@@ -89,6 +89,17 @@ TEST(PitchArrows, LookAtTheScreenPlaceFromEveryValue) {
     }
 }
 
+TEST(PitchArrows, RefuseAtTheLimitItself) {
+    FormationTab tab(image_with(10, record_with(5, 50, 52)));
+    tab.choose(10);
+    tab.click(tab.form.lblGioc(5));
+    for (int i = 0; i < 3; ++i) tab.click(tab.form.cmdLeft);
+    ASSERT_EQ(tab.form.lblGioc(5).left(), 4819);
+    tab.click(tab.form.cmdRight);
+    EXPECT_EQ(tab.form.lblGioc(5).left(), 4819);
+    EXPECT_EQ(tab.form.FormationX[5], 47);
+}
+
 TEST(PitchArrows, LoseTheirDriftWhenTheRecordIsReadAgain) {
     FormationTab tab(image_with(10, record_with(5, 9, 52)));
     tab.choose(10);
