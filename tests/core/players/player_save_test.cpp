@@ -293,7 +293,8 @@ TEST(PlayerSave, PacksEveryFieldThatIsEdited) {
     run.pick_text(form.cboScarpa, "C");
     run.pick_text(form.cboOutSide, "No");
     run.pick_text(form.cboPelle, "B - Giallo");
-    run.pick_text(form.cboFisico, "D 70\xF7" "75 Kg");
+    run.pick_text(form.cboFisico, "D 70\xF7"
+                                  "75 Kg");
     run.pick_text(form.cboPiede, "Sinistro");
     run.type(form.txtAlt, "178");
     run.type(form.txtEta, "27");
@@ -360,8 +361,8 @@ TEST(PlayerSave, FailsOnAWordThatHasNoDigits) {
     run.type(form.txtName, "Mai");
     run.type(form.txtML, "77");
     // The second word becomes -1.
-    for (ComboBox* combo : {&form.cboAttacco, &form.cboAcc, &form.cboVel, &form.cboDribbl, &form.cboRes,
-                            &form.cboEquil, &form.cboReaz}) {
+    for (ComboBox* combo :
+         {&form.cboAttacco, &form.cboAcc, &form.cboVel, &form.cboDribbl, &form.cboRes, &form.cboEquil, &form.cboReaz}) {
         run.pick_text(*combo, "19");
     }
     run.pick_text(form.cboFisico, "H > 90 Kg");
@@ -398,7 +399,8 @@ TEST(PlayerSave, LosesTheSignOfATallOutsiderWithTheLastNumber) {
 
 TEST(Cost, IsWrittenAsOneByte) {
     EditorRun run;
-    for (const auto& [team, position] : {std::pair<int, std::int64_t>{0, 3067405}, {53, 3067405 + 23 * 53}, {95, 3069513}}) {
+    for (const auto& [team, position] :
+         {std::pair<int, std::int64_t>{0, 3067405}, {53, 3067405 + 23 * 53}, {95, 3069513}}) {
         run.choose_team(team);
         for (const int cost : {0, 1, 128, 249, 250}) {
             run.choose_player(2);

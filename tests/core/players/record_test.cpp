@@ -57,15 +57,28 @@ TEST(Record, ReadsTheKnownPlayer) {
     EXPECT_EQ(player.number, "10");
     EXPECT_EQ(player.out_of_role, "No");
     EXPECT_EQ(player.skin, "B - Giallo");
-    EXPECT_EQ(player.build, "D 70\xF7" "75 Kg");
+    EXPECT_EQ(player.build, "D 70\xF7"
+                            "75 Kg");
     EXPECT_EQ(player.age, "27");
     EXPECT_EQ(player.boots, "C");
     EXPECT_EQ(player.foot, "Sinistro");
     const std::array<std::pair<Skill, const char*>, 16> skills{{
-        {Skill::reaction, "13"}, {Skill::balance, "14"}, {Skill::stamina, "15"}, {Skill::dribbling, "16"},
-        {Skill::speed, "17"}, {Skill::acceleration, "16"}, {Skill::attack, "18"}, {Skill::defence, "12"},
-        {Skill::shot_power, "18"}, {Skill::shot_accuracy, "17"}, {Skill::passing, "15"}, {Skill::technique, "17"},
-        {Skill::heading, "14"}, {Skill::jump, "13"}, {Skill::curve, "15"}, {Skill::positivity, "16"},
+        {Skill::reaction, "13"},
+        {Skill::balance, "14"},
+        {Skill::stamina, "15"},
+        {Skill::dribbling, "16"},
+        {Skill::speed, "17"},
+        {Skill::acceleration, "16"},
+        {Skill::attack, "18"},
+        {Skill::defence, "12"},
+        {Skill::shot_power, "18"},
+        {Skill::shot_accuracy, "17"},
+        {Skill::passing, "15"},
+        {Skill::technique, "17"},
+        {Skill::heading, "14"},
+        {Skill::jump, "13"},
+        {Skill::curve, "15"},
+        {Skill::positivity, "16"},
     }};
     for (const auto& [skill, text] : skills) EXPECT_EQ(skill_text(player, skill), text);
 }
@@ -92,9 +105,9 @@ TEST(Record, PacksTheKnownPlayer) {
 
 TEST(Record, TellsEveryBitOnce) {
     std::array<std::int64_t, 4> used{};
-    std::vector<BitField> fields{role_bits, hair_style_bits, hair_colour_bits, beard_style_bits, beard_colour_bits,
-                                 height_bits, number_bits, out_of_role_bits, skin_bits, build_bits, age_bits,
-                                 boots_bits, foot_bits};
+    std::vector<BitField> fields{role_bits,   hair_style_bits, hair_colour_bits, beard_style_bits, beard_colour_bits,
+                                 height_bits, number_bits,     out_of_role_bits, skin_bits,        build_bits,
+                                 age_bits,    boots_bits,      foot_bits};
     fields.insert(fields.end(), skill_bits.begin(), skill_bits.end());
     fields.insert(fields.end(), spare_bits.begin(), spare_bits.end());
     for (const BitField& field : fields) {
@@ -276,10 +289,14 @@ TEST(DecodeSecondWord, ReadsTheAttackByRanges) {
         std::int64_t last;
         const char* attack;
     };
-    for (const Range& range : {Range{0, 536870911, "12"}, {536870912, 1073741823, "13"},
-                               {1073741824, 1610612735, "14"}, {1610612736, 2147483647, "15"},
-                               {-2147483648, -1610612737, "16"}, {-1610612736, -1073741825, "17"},
-                               {-1073741824, -536870913, "18"}, {-536870912, -1, "19"}}) {
+    for (const Range& range : {Range{0, 536870911, "12"},
+                               {536870912, 1073741823, "13"},
+                               {1073741824, 1610612735, "14"},
+                               {1610612736, 2147483647, "15"},
+                               {-2147483648, -1610612737, "16"},
+                               {-1610612736, -1073741825, "17"},
+                               {-1073741824, -536870913, "18"},
+                               {-536870912, -1, "19"}}) {
         for (const std::int64_t word : {range.first, range.first + 1, range.last}) {
             EXPECT_EQ(skill_text(decoded_second(word), Skill::attack), range.attack) << word;
         }
@@ -291,9 +308,12 @@ TEST(DecodeSecondWord, ReadsTheAttackByRanges) {
 }
 
 TEST(DecodeSecondWord, ReadsEveryField) {
-    const std::array<std::pair<Skill, int>, 6> skills{{{Skill::acceleration, 26}, {Skill::speed, 23},
-                                                       {Skill::dribbling, 20}, {Skill::stamina, 17},
-                                                       {Skill::balance, 14}, {Skill::reaction, 10}}};
+    const std::array<std::pair<Skill, int>, 6> skills{{{Skill::acceleration, 26},
+                                                       {Skill::speed, 23},
+                                                       {Skill::dribbling, 20},
+                                                       {Skill::stamina, 17},
+                                                       {Skill::balance, 14},
+                                                       {Skill::reaction, 10}}};
     for (const auto& [skill, bit] : skills) {
         for (int value = 0; value < 8; ++value) {
             const DecodedPlayer player = decoded_second(value * unit(bit));
@@ -324,7 +344,8 @@ TEST(DecodeSecondWord, ShowsItsSpareBitInTheReaction) {
     EXPECT_EQ(skill_text(ten, Skill::reaction), "13");
     // Nine units of 1024 are left for the age.
     EXPECT_EQ(ten.age, std::to_string(15 + 9 * 32));
-    EXPECT_EQ(ten.build, "D 70\xF7" "75 Kg");
+    EXPECT_EQ(ten.build, "D 70\xF7"
+                         "75 Kg");
 }
 
 TEST(DecodeThirdWord, ReadsTheFoot) {
@@ -367,9 +388,15 @@ TEST(DecodeThirdWord, ReadsBootsWithBothFootBitsSet) {
 }
 
 TEST(DecodeThirdWord, ReadsEveryField) {
-    const std::array<std::pair<Skill, int>, 9> skills{
-        {{Skill::positivity, 24}, {Skill::curve, 21}, {Skill::jump, 18}, {Skill::heading, 15}, {Skill::technique, 12},
-         {Skill::passing, 9}, {Skill::shot_accuracy, 6}, {Skill::shot_power, 3}, {Skill::defence, 0}}};
+    const std::array<std::pair<Skill, int>, 9> skills{{{Skill::positivity, 24},
+                                                       {Skill::curve, 21},
+                                                       {Skill::jump, 18},
+                                                       {Skill::heading, 15},
+                                                       {Skill::technique, 12},
+                                                       {Skill::passing, 9},
+                                                       {Skill::shot_accuracy, 6},
+                                                       {Skill::shot_power, 3},
+                                                       {Skill::defence, 0}}};
     for (const auto& [skill, bit] : skills) {
         for (int value = 0; value < 8; ++value) {
             const DecodedPlayer player = decoded_third(value * unit(bit));
@@ -526,10 +553,12 @@ TEST(PackAndDecode, GiveBackRandomPlayers) {
 TEST(PackAndDecode, GiveBackEveryValueOfEveryField) {
     std::mt19937 random(99);
     const std::vector<std::pair<std::int64_t PlayerValues::*, std::pair<int, int>>> fields{
-        {&PlayerValues::role, {0, 7}}, {&PlayerValues::hair_style, {0, 31}}, {&PlayerValues::hair_colour, {0, 7}},
-        {&PlayerValues::beard_style, {0, 6}}, {&PlayerValues::beard_colour, {0, 6}}, {&PlayerValues::height, {155, 211}},
-        {&PlayerValues::number, {1, 32}}, {&PlayerValues::skin, {0, 3}}, {&PlayerValues::build, {0, 7}},
-        {&PlayerValues::age, {15, 46}}, {&PlayerValues::boots, {0, 7}}, {&PlayerValues::foot, {0, 2}}};
+        {&PlayerValues::role, {0, 7}},         {&PlayerValues::hair_style, {0, 31}},
+        {&PlayerValues::hair_colour, {0, 7}},  {&PlayerValues::beard_style, {0, 6}},
+        {&PlayerValues::beard_colour, {0, 6}}, {&PlayerValues::height, {155, 211}},
+        {&PlayerValues::number, {1, 32}},      {&PlayerValues::skin, {0, 3}},
+        {&PlayerValues::build, {0, 7}},        {&PlayerValues::age, {15, 46}},
+        {&PlayerValues::boots, {0, 7}},        {&PlayerValues::foot, {0, 2}}};
     const auto expect_back = [](const PlayerValues& values) {
         if (!reads_back(values)) return;
         EXPECT_TRUE(same_values(values_of_texts(decode_player(pack_player(values))), values));
@@ -605,7 +634,8 @@ private:
     }
     template <std::size_t n>
     void add(const std::array<std::string_view, n>& table, std::int64_t value) {
-        found_.emplace_back(table[value >= 0 && value < static_cast<std::int64_t>(n) ? static_cast<std::size_t>(value) : 0]);
+        found_.emplace_back(
+            table[value >= 0 && value < static_cast<std::int64_t>(n) ? static_cast<std::size_t>(value) : 0]);
     }
 
     void first(std::int64_t t) {
@@ -724,7 +754,8 @@ TEST(DecodePlayerSteps, AgreeWithTheTextsOfQuotientsForAnyWords) {
     }
     for (int low = 0; low < 20; ++low) {
         for (int bit = 0; bit < 32; ++bit) {
-            const Words words{first_word(unit(bit)) - low + 10, signed_word(unit(bit) + low), signed_word(unit(bit)) - 0};
+            const Words words{first_word(unit(bit)) - low + 10, signed_word(unit(bit) + low),
+                              signed_word(unit(bit)) - 0};
             EXPECT_EQ(in_step_order(decode_player(words)), TextDecoder::decode(words)) << words[0];
         }
     }
