@@ -451,6 +451,21 @@ TEST(Cost, HoldsTheFocusAboveItsLimit) {
     EXPECT_EQ(run.told(), saved);
 }
 
+TEST(Cost, KeepsTheNameThatTheFocusDidNotReach) {
+    EditorRun run;
+    put(run.disc.bytes, 388107, padded_name("ROSSI"));
+    run.choose_team(0);
+    run.choose_player(1);
+    run.type(run.form.txtML, "251");
+    EXPECT_EQ(user::type(run.form, run.form.txtName, "Bianchi"), user::Outcome::focus_kept);
+    EXPECT_EQ(run.form.txtName.text(), "ROSSI") << "it had no focus to lose";
+    EXPECT_EQ(run.form.focused(), &run.form.txtML);
+    run.type(run.form.txtML, "25");
+    EXPECT_EQ(user::focus(run.form, run.form.txtName), user::Outcome::done);
+    EXPECT_EQ(user::focus(run.form, run.form.txtML), user::Outcome::done);
+    EXPECT_EQ(run.form.txtName.text(), "Rossi");
+}
+
 TEST(Cost, FailsWithoutANumberOrBeyondAByte) {
     EditorRun run;
     run.choose_team(0);

@@ -225,6 +225,25 @@ TEST(TeamNames, DigitsRepeatTheLetterAlsoOfTheNameBefore) {
     EXPECT_EQ(run.disc.at(2003537, 10), test::letter_code("RAbbb"));
 }
 
+TEST(TeamNames, AreTrimmedOnceMoreWhenTheyAreCoded) {
+    EditorRun run;
+    run.choose_team(10);
+    // The digit has no code yet, so that the code begins with the blank.
+    run.type(run.form.txtSqHEX, "2 AB");
+    run.click(run.form.cmdName);
+    EXPECT_EQ(run.disc.at(2003549, 10), test::letter_code("AB") + zeroes(6));
+    run.choose_team(10);
+    EXPECT_EQ(run.form.txtSqHEX.text(), "AB   ");
+}
+
+TEST(TeamNames, WriteAShortNameOfAFileWhole) {
+    EditorRun run;
+    run.choose_team(10);
+    run.form.txtSqShort.set_text("romani");
+    run.click(run.form.cmdName);
+    EXPECT_EQ(run.disc.at(2005333, 8), std::string("ROMANII\0", 8)) << "over the letters of the team below";
+}
+
 TEST(TeamNames, CutTheTableNameToEachTable) {
     EditorRun run;
     run.choose_team(1);
