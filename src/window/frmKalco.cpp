@@ -31,7 +31,12 @@ frmKalco::frmKalco(Platform& services, StorageOpener opener)
 bool frmKalco::set_focus(Control& target) {
     if (focused_ == &target) return true;
     Control* const before = std::exchange(focused_, &target);
-    if (before != nullptr && before->lost_focus) before->lost_focus();
+    // A control that the focus is taken back from before it arrived has nothing to lose.
+    if (before != nullptr && before != arriving_ && before->lost_focus) {
+        Control* const outer = std::exchange(arriving_, &target);
+        before->lost_focus();
+        arriving_ = outer;
+    }
     if (focused_ != &target) return false;
     if (target.got_focus) target.got_focus();
     return focused_ == &target;

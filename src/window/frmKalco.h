@@ -284,6 +284,8 @@ public:
 
 private:
     Control* focused_ = nullptr;
+    /// Is to get the focus as soon as another control has lost it.
+    Control* arriving_ = nullptr;
 };
 
 }  // namespace kalco

@@ -10,21 +10,22 @@ namespace {
 /// Remembers the writes that reach the storage below it.
 class LoggedStorage final : public Storage {
 public:
-    LoggedStorage(std::unique_ptr<Storage> below, std::vector<EditorRun::Write>& log)
-        : below_(std::move(below)),
-          log_(log) {}
+    LoggedStorage(std::unique_ptr<Storage> below, EditorRun& run) : below_(std::move(below)), run_(run) {}
 
     std::string read(std::int64_t offset, std::size_t bytes) override { return below_->read(offset, bytes); }
     void write(std::int64_t offset, std::string_view bytes) override {
         if (bytes.empty()) return;
         below_->write(offset, bytes);
-        log_.push_back({offset + 1, std::string(bytes)});
+        run_.log.push_back({offset + 1, std::string(bytes)});
     }
-    void flush() override { below_->flush(); }
+    void flush() override {
+        if (run_.flush_failure != 0) throw RuntimeError(run_.flush_failure);
+        below_->flush();
+    }
 
 private:
     std::unique_ptr<Storage> below_;
-    std::vector<EditorRun::Write>& log_;
+    EditorRun& run_;
 };
 
 void count_runs(Event& slot, int& count) {
@@ -38,7 +39,7 @@ void count_runs(Event& slot, int& count) {
 
 EditorRun::EditorRun(const std::string& image)
     : editor(platform, [this](const std::string& path) -> std::unique_ptr<Storage> {
-          return std::make_unique<LoggedStorage>(opener_of(disc)(path), log);
+          return std::make_unique<LoggedStorage>(opener_of(disc)(path), *this);
       }) {
     disc.bytes = image;
     platform.home = home.path();

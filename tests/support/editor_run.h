@@ -39,6 +39,8 @@ public:
     std::vector<std::string> told();
     /// The positions and bytes of the writes so far, empty ones left out.
     std::vector<Write> log;
+    /// The error of the next flush, 0 for none.
+    int flush_failure = 0;
 
     Disc disc;
     FakePlatform platform;

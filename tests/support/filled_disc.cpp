@@ -28,7 +28,7 @@ std::uint32_t mixed(int team, int player, std::uint32_t salt) {
 /// Noise that is never zero, so that cleared bytes differ from it.
 std::string noise() {
     std::string image(image_sectors * 2352, '\0');
-    std::uint32_t state = 20011105;
+    std::uint32_t state = 1234567;
     for (char& byte : image) {
         state = state * 1664525U + 1013904223U;
         byte = static_cast<char>(1 + (state >> 24) % 255);

@@ -37,7 +37,8 @@ TEST(PlayerFields, OfferTheTextsOfTheTables) {
     EXPECT_EQ(form.cboOutSide.items(), (Texts{"Si", "No"}));
     EXPECT_EQ(form.cboPelle.items(), (Texts{"A - Bianco", "B - Giallo", "C - Marrone", "D - Nero"}));
     EXPECT_EQ(form.cboFisico.items().size(), 8U);
-    EXPECT_EQ(form.cboFisico.items()[1], "B 60\xF7" "65 Kg");
+    EXPECT_EQ(form.cboFisico.items()[1], "B 60\xF7"
+                                         "65 Kg");
     EXPECT_EQ(form.cboCapelli.items().size(), 32U);
     EXPECT_EQ(form.cboCapelli.items()[31], "P1");
     EXPECT_EQ(form.cboColCap.items(), letters('H'));
@@ -69,14 +70,15 @@ TEST(PlayerFields, ShowTheKnownPlayer) {
     EXPECT_EQ(form.txtNum.text(), "10");
     EXPECT_EQ(form.cboOutSide.text(), "No");
     EXPECT_EQ(form.cboPelle.text(), "B - Giallo");
-    EXPECT_EQ(form.cboFisico.text(), "D 70\xF7" "75 Kg");
+    EXPECT_EQ(form.cboFisico.text(), "D 70\xF7"
+                                     "75 Kg");
     EXPECT_EQ(form.txtEta.text(), "27");
     EXPECT_EQ(form.cboPiede.text(), "Sinistro");
     const std::vector<std::pair<ComboBox*, const char*>> skills{
-        {&form.cboReaz, "13"},  {&form.cboEquil, "14"}, {&form.cboRes, "15"},   {&form.cboDribbl, "16"},
+        {&form.cboReaz, "13"},  {&form.cboEquil, "14"}, {&form.cboRes, "15"},     {&form.cboDribbl, "16"},
         {&form.cboVel, "17"},   {&form.cboAcc, "16"},   {&form.cboAttacco, "18"}, {&form.cboDifesa, "12"},
-        {&form.cboPot, "18"},   {&form.cboPrec, "17"},  {&form.cboPass, "15"},  {&form.cboTecn, "17"},
-        {&form.cboTesta, "14"}, {&form.cboElev, "13"},  {&form.cboCurv, "15"},  {&form.cboPosit, "16"}};
+        {&form.cboPot, "18"},   {&form.cboPrec, "17"},  {&form.cboPass, "15"},    {&form.cboTecn, "17"},
+        {&form.cboTesta, "14"}, {&form.cboElev, "13"},  {&form.cboCurv, "15"},    {&form.cboPosit, "16"}};
     for (const auto& [combo, text] : skills) EXPECT_EQ(combo->text(), text) << combo->name();
     FillBlankFields(form);
     EXPECT_EQ(words(form), (Texts{"635839574", "-758741619", "1415927664"}));

@@ -88,8 +88,11 @@ TEST(Roster, StartsTheTeamsAtTheKnownPlaces) {
         std::int64_t name;
         std::int64_t record;
     };
-    for (const First& first : {First{59, 403491, 2198209}, {60, 403721, 2198485}, {61, 403951, 2198761},
-                               {62, 404181, 2199341}, {53, 401807, 2196249}}) {
+    for (const First& first : {First{59, 403491, 2198209},
+                               {60, 403721, 2198485},
+                               {61, 403951, 2198761},
+                               {62, 404181, 2199341},
+                               {53, 401807, 2196249}}) {
         EXPECT_EQ(roster_name_field(first.team, 0).position(), first.name) << first.team;
         EXPECT_EQ(roster_record_field(first.team, 0).position(), first.record) << first.team;
     }

@@ -77,19 +77,16 @@ TEST(TeamSelection, EnablesTheControlsByClass) {
     EXPECT_FALSE(form.Frame3.enabled());
     const auto states = [&form] {
         std::string text;
-        for (const Control* control : std::initializer_list<const Control*>{
-                 &form.cmdName, &form.cmdImpML, &form.cmdExp, &form.cmdSaveCar, &form.cmdImp, &form.listDat,
-                 &form.txtML, &form.lblMl}) {
+        for (const Control* control :
+             std::initializer_list<const Control*>{&form.cmdName, &form.cmdImpML, &form.cmdExp, &form.cmdSaveCar,
+                                                   &form.cmdImp, &form.listDat, &form.txtML, &form.lblMl}) {
             text += control->enabled() ? '1' : '0';
         }
         return text;
     };
     for (int team = 95; team >= 0; --team) {
         run.choose_team(team);
-        const char* expected = team == 95   ? "01010111"
-                               : team >= 63 ? "10000000"
-                               : team >= 54 ? "10111100"
-                                            : "10111111";
+        const char* expected = team == 95 ? "01010111" : team >= 63 ? "10000000" : team >= 54 ? "10111100" : "10111111";
         EXPECT_EQ(states(), expected) << team;
         EXPECT_TRUE(form.Frame3.enabled());
     }
@@ -264,7 +261,8 @@ TEST(PlayerClick, LeavesTheCostWithoutATeam) {
     run.choose_team(10);
     run.click(run.form.cmdNew);
     run.platform.choices.push_back(run.home.write(
-        "one.DAT", "[data]\r\nintro=\r\nid=n\r\nlongname=X\r\nshortname=Y\r\np1=635839574,-758741619,1415927664,Uno\r\n"));
+        "one.DAT",
+        "[data]\r\nintro=\r\nid=n\r\nlongname=X\r\nshortname=Y\r\np1=635839574,-758741619,1415927664,Uno\r\n"));
     run.click(run.form.cmdImp);
     EXPECT_EQ(run.form.txtName.text(), "Uno");
     EXPECT_EQ(run.form.txtAlt.text(), "178");

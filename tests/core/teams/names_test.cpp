@@ -87,15 +87,15 @@ TEST_P(RenameOfEveryTeam, ChangesWhatItMustAndNothingElse) {
     const std::size_t letters = test::full_width_name(team).size();
     const auto limit = static_cast<std::size_t>(full_width_letters(team));
     const std::vector<std::string> names{
-        std::string(limit, 'Z'),                                    // as long as the field takes
-        std::string(letters, 'm'),                                  // as long as the old one
-        std::string("Ab"),                                          // shorter
-        std::string("A B"),                                         // with a blank
-        std::string("A  B"),                                        // with two
-        std::string("X9Y"),                                         // a digit repeats the letter before it
-        std::string("Q\xE8") + ",r",                                // so do an accent and a comma
-        std::string("  p.q "),                                      // blanks around it
-        std::string(limit, 'w') + std::string(4, 'k'),              // typed beyond the limit
+        std::string(limit, 'Z'),                        // as long as the field takes
+        std::string(letters, 'm'),                      // as long as the old one
+        std::string("Ab"),                              // shorter
+        std::string("A B"),                             // with a blank
+        std::string("A  B"),                            // with two
+        std::string("X9Y"),                             // a digit repeats the letter before it
+        std::string("Q\xE8") + ",r",                    // so do an accent and a comma
+        std::string("  p.q "),                          // blanks around it
+        std::string(limit, 'w') + std::string(4, 'k'),  // typed beyond the limit
     };
     for (const std::string& name : names) {
         run.disc.bytes = test::filled_image();
@@ -121,8 +121,8 @@ TEST_P(RenameOfEveryTeam, ChangesWhatItMustAndNothingElse) {
 INSTANTIATE_TEST_SUITE_P(Teams, RenameOfEveryTeam, ::testing::Range(0, 95));
 
 TEST(TeamNames, LimitTheFullWidthNameToHalfItsBytes) {
-    const std::map<int, int> halves{{8, 4}, {10, 5}, {12, 6}, {14, 7}, {17, 8}, {18, 9}, {19, 10}, {22, 11}, {24, 12},
-                                    {26, 13}};
+    const std::map<int, int> halves{{8, 4},  {10, 5},  {12, 6},  {14, 7},  {17, 8},
+                                    {18, 9}, {19, 10}, {22, 11}, {24, 12}, {26, 13}};
     EditorRun run;
     for (int team = 0; team < 96; ++team) {
         const int bytes = test::printed_teams[static_cast<std::size_t>(team)].full_width_bytes;
@@ -225,6 +225,25 @@ TEST(TeamNames, DigitsRepeatTheLetterAlsoOfTheNameBefore) {
     EXPECT_EQ(run.disc.at(2003537, 10), test::letter_code("RAbbb"));
 }
 
+TEST(TeamNames, AreTrimmedOnceMoreWhenTheyAreCoded) {
+    EditorRun run;
+    run.choose_team(10);
+    // The digit has no code yet, so that the code begins with the blank.
+    run.type(run.form.txtSqHEX, "2 AB");
+    run.click(run.form.cmdName);
+    EXPECT_EQ(run.disc.at(2003549, 10), test::letter_code("AB") + zeroes(6));
+    run.choose_team(10);
+    EXPECT_EQ(run.form.txtSqHEX.text(), "AB   ");
+}
+
+TEST(TeamNames, WriteAShortNameOfAFileWhole) {
+    EditorRun run;
+    run.choose_team(10);
+    run.form.txtSqShort.set_text("romani");
+    run.click(run.form.cmdName);
+    EXPECT_EQ(run.disc.at(2005333, 8), std::string("ROMANII\0", 8)) << "over the letters of the team below";
+}
+
 TEST(TeamNames, CutTheTableNameToEachTable) {
     EditorRun run;
     run.choose_team(1);
@@ -277,7 +296,8 @@ TEST(TeamNames, ClearOneByteMoreForTheLastClub) {
     run.choose_team(94);
     run.type(run.form.txtSqHEX, "Zzzzz");
     run.click(run.form.cmdName);
-    EXPECT_EQ(run.disc.at(2002317, 12), test::letter_code("Zzzzz") + '\0' + test::bytes_at(test::filled_image(), 2002328, 1));
+    EXPECT_EQ(run.disc.at(2002317, 12),
+              test::letter_code("Zzzzz") + '\0' + test::bytes_at(test::filled_image(), 2002328, 1));
     EXPECT_NE(test::bytes_at(test::filled_image(), 2002328, 1), zeroes(1));
 }
 
