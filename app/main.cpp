@@ -3,6 +3,7 @@
 
 #include "app/kalco_window.h"
 #include "app/qt_platform.h"
+#include "app/style.h"
 #include "editor.h"
 #include "runtime_error.h"
 #include "window/user.h"
@@ -38,7 +39,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationVersion(QStringLiteral(KALCO_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("org.kalco.Kalco"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icon/kalco.svg")));
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setStyle(new app::Style);
     // Closing the first dialog must not end the program; the window's end does.
     QApplication::setQuitOnLastWindowClosed(false);
 

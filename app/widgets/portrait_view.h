@@ -29,7 +29,7 @@ public:
 
     void show_looks(const Looks& looks);
 
-    QSize sizeHint() const override { return {150, 150}; }
+    QSize sizeHint() const override { return {168, 168}; }
     QSize minimumSizeHint() const override { return {110, 110}; }
 
 protected:

@@ -27,9 +27,21 @@ void RecordView::show_player(const PlayerSummary& player) {
     update();
 }
 
+int RecordView::skill_name_width() const {
+    return fontMetrics().horizontalAdvance(QStringLiteral("Accelerazione")) + 12;
+}
+
+int RecordView::number_width() const {
+    return fontMetrics().horizontalAdvance(QStringLiteral("00")) + 8;
+}
+
+int RecordView::bar_width() const {
+    return fontMetrics().averageCharWidth() * 9;
+}
+
 QSize RecordView::sizeHint() const {
     const int line = fontMetrics().height() + 2;
-    return {fontMetrics().averageCharWidth() * 27, line * (1 + fact_rows + skill_rows) + 20};
+    return {skill_name_width() + number_width() + bar_width() + 24, line * (1 + fact_rows + skill_rows) + 20};
 }
 
 void RecordView::paintEvent(QPaintEvent*) {
@@ -67,15 +79,13 @@ void RecordView::paintEvent(QPaintEvent*) {
         const QRect row = next_line();
         painter.setPen(ink);
         painter.drawText(row, Qt::AlignLeft | Qt::AlignVCenter, skill.name);
-        const int bar_width = row.width() / 3;
-        const int number_width = fontMetrics().horizontalAdvance(QStringLiteral("00")) + 6;
-        const QRect number(row.right() - bar_width - number_width, row.top(), number_width - 6, row.height());
+        const QRect number(row.left() + skill_name_width(), row.top(), number_width() - 8, row.height());
         painter.drawText(number, Qt::AlignRight | Qt::AlignVCenter, QString::number(skill.value));
         const int reached = std::clamp(skill.value - lowest_skill + 1, 0, skill_steps);
-        const double full = bar_width * reached / static_cast<double>(skill_steps);
+        const double full = bar_width() * reached / static_cast<double>(skill_steps);
         painter.setPen(Qt::NoPen);
         painter.setBrush(skill_colour((std::max(reached, 1) - 1.0) / (skill_steps - 1)));
-        painter.drawRoundedRect(QRectF(row.right() - bar_width, row.center().y() - 3, full, 7), 3, 3);
+        painter.drawRoundedRect(QRectF(number.right() + 8, row.center().y() - 3, full, 7), 3, 3);
     }
 }
 

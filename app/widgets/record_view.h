@@ -34,6 +34,10 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    int skill_name_width() const;
+    int number_width() const;
+    int bar_width() const;
+
     PlayerSummary player_;
 };
 

@@ -19,7 +19,7 @@ public:
 
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
         const QSize hint = QStyledItemDelegate::sizeHint(option, index);
-        return {hint.width() + number_width(option), option.fontMetrics.height() + 6};
+        return {hint.width() + number_width(option), option.fontMetrics.height() + 5};
     }
 
     void paint(QPainter* painter, const QStyleOptionViewItem& given, const QModelIndex& index) const override {

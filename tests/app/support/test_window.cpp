@@ -2,7 +2,8 @@
 
 #include <QApplication>
 #include <QPalette>
-#include <QStyleFactory>
+
+#include "app/style.h"
 
 namespace kalco::test {
 namespace {
@@ -30,7 +31,7 @@ QPalette dark_palette() {
 }  // namespace
 
 void prepare_application(bool dark) {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new app::Style);
     QApplication::setQuitOnLastWindowClosed(false);
     if (dark) QApplication::setPalette(dark_palette());
 }
