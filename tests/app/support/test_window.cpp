@@ -1,9 +1,17 @@
 #include "app/support/test_window.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QPalette>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QtTest/qtestkeyboard.h>
+#include <QtTest/qtestmouse.h>
+#include <stdexcept>
 
 #include "app/style.h"
+#include "app/widgets/rows_view.h"
+#include "ctl/demo/demo_image.h"
 
 namespace kalco::test {
 namespace {
@@ -36,11 +44,73 @@ void prepare_application(bool dark) {
     if (dark) QApplication::setPalette(dark_palette());
 }
 
+DemoHome::DemoHome() {
+    static const demo::DemoDisc disc = demo::make_demo_disc(1);
+    demo::write_image(disc, image(), true, [](std::uint32_t) {});
+}
+
+std::string DemoHome::image_bytes() const {
+    QFile file(QString::fromStdString(image()));
+    if (!file.open(QIODevice::ReadOnly)) throw std::runtime_error("the image can't be read");
+    return file.readAll().toStdString();
+}
+
 TestWindow::TestWindow(const std::string& image, const std::string& home) {
     platform.home = home;
     platform.choices.push_back(image);
+    binder().on_failure = [this](const std::exception_ptr& thrown) { failure = thrown; };
     window.start();
     window.activateWindow();
+    QApplication::processEvents();
+}
+
+TestWindow::~TestWindow() {
+    window.close();
+}
+
+void TestWindow::select_tab(int tab) {
+    QTabBar& bar = *widget<QTabWidget>(form().SSTab1).tabBar();
+    QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.tabRect(tab).center());
+    QApplication::processEvents();
+}
+
+void TestWindow::click(const Control& control) {
+    QTest::mouseClick(&widget(control), Qt::LeftButton);
+    QApplication::processEvents();
+}
+
+void TestWindow::type(const Control& box, const QString& text) {
+    click(box);
+    QTest::keyClick(&widget(box), Qt::Key_A, Qt::ControlModifier);
+    for (const QChar character : text) {
+        QTest::sendKeyEvent(QTest::Click, &widget(box), Qt::Key_unknown, character, Qt::NoModifier);
+    }
+}
+
+void TestWindow::pick_row(const Control& list, int row) {
+    auto& rows = widget<app::RowsView>(list);
+    const QModelIndex index = rows.model()->index(row, 0);
+    rows.scrollTo(index);
+    QTest::mouseClick(rows.viewport(), Qt::LeftButton, {}, rows.visualRect(index).center());
+    QApplication::processEvents();
+}
+
+void TestWindow::double_click_row(const Control& list, int row) {
+    pick_row(list, row);
+    auto& rows = widget<app::RowsView>(list);
+    const QPoint place = rows.visualRect(rows.model()->index(row, 0)).center();
+    QTest::mouseDClick(rows.viewport(), Qt::LeftButton, {}, place);
+    QTest::mouseRelease(rows.viewport(), Qt::LeftButton, {}, place);
+    QApplication::processEvents();
+}
+
+void TestWindow::key(QWidget& widget, Qt::Key key) {
+    QTest::keyClick(&widget, key);
+    QApplication::processEvents();
+}
+
+void TestWindow::key(Qt::Key key) {
+    if (QWidget* const focused = QApplication::focusWidget()) this->key(*focused, key);
 }
 
 }  // namespace kalco::test

@@ -1,0 +1,193 @@
+#include <QApplication>
+#include <QDragEnterEvent>
+#include <QLabel>
+#include <QMimeData>
+#include <QRadioButton>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QtTest>
+
+#include "app/support/test_window.h"
+#include "app/widgets/pick_combo.h"
+#include "runtime_error.h"
+#include "window/user.h"
+
+using namespace kalco;
+
+/// The window as a whole: its life, its texts, its groups of option buttons.
+class TestKalcoWindow : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { test::prepare_application(); }
+
+    void a_cancelled_start_shows_no_window() {
+        test::TestWindow t("");
+        QVERIFY(t.form().ended == Ending::cancelled);
+        QVERIFY(!t.window.isVisible());
+        QVERIFY(t.binder().over());
+    }
+
+    void an_image_held_by_another_program_ends_the_start() {
+        test::TestWindow first(home_);
+        test::TestWindow second(home_);
+        QVERIFY(second.form().ended == Ending::denied);
+        QVERIFY(!second.window.isVisible());
+        QCOMPARE(second.platform.messages.size(), 1U);
+    }
+
+    void an_image_that_cannot_be_opened_leaves_a_window() {
+        test::TestWindow t(home_.path() + "/none.bin", home_.path());
+        QVERIFY(t.window.isVisible());
+        QVERIFY(!t.binder().over());
+    }
+
+    void an_error_that_nothing_catches_ends_the_run_once() {
+        test::TestWindow t(home_);
+        t.form().cmdNew.click = [] { throw RuntimeError(error::overflow); };
+        t.click(t.form().cmdNew);
+        QVERIFY(t.failure != nullptr);
+        QVERIFY(t.binder().over());
+        QVERIFY_EXCEPTION_THROWN(std::rethrow_exception(t.failure), RuntimeError);
+        bool acted = false;
+        t.binder().act([&] { acted = true; });
+        QVERIFY(!acted);
+    }
+
+    void closing_the_window_lets_the_image_go() {
+        {
+            test::TestWindow t(home_);
+            QVERIFY(t.window.close());
+            QVERIFY(!t.form().image.is_open());
+            QVERIFY(t.form().ended == Ending::closed);
+        }
+        test::TestWindow again(home_);
+        QVERIFY(again.form().image.is_open());
+    }
+
+    void the_title_tells_the_image() {
+        test::TestWindow t(home_);
+        QVERIFY(t.window.windowTitle().contains(QStringLiteral("demo.bin")));
+    }
+
+    void a_dropped_file_is_told() {
+        test::TestWindow t(home_);
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(QStringLiteral("/x/other.bin"))});
+        QString dropped;
+        connect(&t.window, &app::KalcoWindow::image_dropped, this, [&](const QString& path) { dropped = path; });
+        QDragEnterEvent enter({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&t.window, &enter);
+        QVERIFY(enter.isAccepted());
+        QDropEvent drop({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&t.window, &drop);
+        QCOMPARE(dropped, QStringLiteral("/x/other.bin"));
+    }
+
+    void a_pending_import_is_told_until_it_is_gone() {
+        test::TestWindow t(home_);
+        auto* const line = t.window.findChild<QLabel*>(QStringLiteral("viewPending"));
+        t.binder().act([&] { user::pick(t.form(), t.form().cboSeqSQ, 3); });
+        QVERIFY(line->text().isEmpty());
+        t.platform.choices.push_back("");
+        t.click(t.form().cmdImp);
+        QVERIFY(!line->text().isEmpty());
+        t.binder().act([&] { user::pick(t.form(), t.form().cboSeqSQ, 4); });
+        QVERIFY(line->text().isEmpty());
+    }
+
+    void access_keys_select_tabs() {
+        test::TestWindow t(home_);
+        QTest::keyClick(&t.window, Qt::Key_F, Qt::AltModifier);
+        QCOMPARE(t.form().SSTab1.tab(), tab::formations);
+        QTest::keyClick(&t.window, Qt::Key_K, Qt::AltModifier);
+        QCOMPARE(t.form().SSTab1.tab(), tab::kickers);
+        QCOMPARE(t.form().focused(), static_cast<Control*>(&t.form().SSTab1));
+        QTabBar& bar = *t.widget<QTabWidget>(t.form().SSTab1).tabBar();
+        QVERIFY(bar.hasFocus());
+        t.key(bar, Qt::Key_Left);
+        QCOMPARE(t.form().SSTab1.tab(), tab::league);
+        QVERIFY(bar.hasFocus());
+    }
+
+    void an_access_key_moves_the_focus_to_its_field() {
+        test::TestWindow t(home_);
+        t.binder().act([&] { user::pick(t.form(), t.form().cboSeqSQ, 3); });
+        QTest::keyClick(&t.window, Qt::Key_T, Qt::AltModifier);
+        QCOMPARE(t.form().focused(), static_cast<Control*>(&t.form().txtSqDec));
+        QVERIFY(t.widget(t.form().txtSqDec).hasFocus());
+    }
+
+    void no_two_access_keys_of_a_tab_are_the_same() {
+        test::TestWindow t(home_);
+        auto& tabs = t.widget<QTabWidget>(t.form().SSTab1);
+        QStringList shared;
+        for (int i = 0; i < tabs.count(); ++i) shared << QKeySequence::mnemonic(tabs.tabText(i)).toString();
+        for (int i = 0; i < tabs.count(); ++i) {
+            QStringList keys = shared;
+            for (const QLabel* label : tabs.widget(i)->findChildren<QLabel*>()) {
+                if (label->buddy() != nullptr) keys << QKeySequence::mnemonic(label->text()).toString();
+            }
+            for (const QAbstractButton* button : tabs.widget(i)->findChildren<QAbstractButton*>()) {
+                keys << QKeySequence::mnemonic(button->text()).toString();
+            }
+            keys.removeAll(QString());
+            QVERIFY2(keys.removeDuplicates() == 0, qPrintable(QString::number(i)));
+        }
+    }
+
+    void option_buttons_follow_the_model() {
+        test::TestWindow t(home_);
+        t.select_tab(tab::kickers);
+        frmKalco& form = t.form();
+        t.binder().act([&] { user::pick(form, form.cboSquadra, 3); });
+        t.click(form.opCPC(4));
+        t.click(form.opCPC(4));
+        QVERIFY(form.opCPC(4).value() && t.widget<QRadioButton>(form.opCPC(4)).isChecked());
+        t.key(Qt::Key_Down);
+        QVERIFY(form.opCPC(5).value() && !form.opCPC(4).value());
+        QVERIFY(t.widget(form.opCPC(5)).hasFocus());
+        t.key(Qt::Key_Up);
+        t.key(Qt::Key_Up);
+        QVERIFY(t.widget<QRadioButton>(form.opCPC(3)).isChecked());
+        t.click(form.opCPC(0));
+        t.key(Qt::Key_Up);
+        QVERIFY(form.opCPC(0).value());
+        t.key(Qt::Key_Tab);
+        QVERIFY(form.focused()->frame() == &form.fraPZL);
+    }
+
+    void a_combo_shows_a_text_that_is_not_among_its_rows() {
+        test::TestWindow t(home_);
+        frmKalco& form = t.form();
+        t.binder().act([&] {
+            user::pick(form, form.cboSeqSQ, 3);
+            form.cboPosit.set_text("20");
+        });
+        auto& combo = t.widget<app::PickCombo>(form.cboPosit);
+        QCOMPARE(combo.shown_text(), QStringLiteral("20"));
+        QCOMPARE(combo.currentIndex(), -1);
+        combo.setFocus(Qt::TabFocusReason);
+        t.key(combo, Qt::Key_Down);
+        QCOMPARE(form.cboPosit.row(), 0);
+        QCOMPARE(combo.shown_text(), QStringLiteral("12"));
+    }
+
+    void picking_the_same_row_of_a_combo_raises_the_pick() {
+        test::TestWindow t(home_);
+        frmKalco& form = t.form();
+        t.binder().act([&] { user::pick(form, form.cboSeqSQ, 3); });
+        t.binder().act([&] { user::type(form, form.txtName, "Qwerty"); });
+        auto& combo = t.widget<app::PickCombo>(form.cboSeqSQ);
+        QTest::mouseClick(&combo, Qt::LeftButton);
+        QTest::keyClick(combo.view(), Qt::Key_Return);
+        QVERIFY(form.txtName.text() != "Qwerty");
+        QCOMPARE(form.cboSeqSQ.row(), 3);
+    }
+
+private:
+    test::DemoHome home_;
+};
+
+QTEST_MAIN(TestKalcoWindow)
+#include "test_kalco_window.moc"

@@ -1,0 +1,85 @@
+#include <QApplication>
+#include <QLineEdit>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QWheelEvent>
+#include <QtTest>
+
+#include "app/support/test_window.h"
+#include "app/widgets/pick_combo.h"
+#include "window/user.h"
+
+using namespace kalco;
+
+namespace {
+
+void turn_wheel(QWidget& widget, int steps) {
+    const QPointF place(widget.rect().center());
+    QWheelEvent event(place, widget.mapToGlobal(place), {}, QPoint(0, steps * 120), Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&widget, &event);
+}
+
+}  // namespace
+
+/// The wheel changes nothing that does not have the focus.
+class TestWheel : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { test::prepare_application(); }
+
+    void init() { t_ = std::make_unique<test::TestWindow>(home_); }
+    void cleanup() { t_.reset(); }
+
+    void it_leaves_every_unfocused_field_alone() {
+        frmKalco& form = t_->form();
+        t_->binder().act([&] {
+            user::pick(form, form.cboSeqSQ, 10);
+            user::focus(form, form.txtName);
+        });
+        int combos = 0;
+        for (Control* control : form.registry.all()) {
+            if (!control->on_screen() || control->tab() != tab::players) continue;
+            if (control->kind() == Kind::combo_box) {
+                const auto& combo = static_cast<ComboBox&>(*control);
+                const std::string before = combo.text();
+                turn_wheel(t_->widget(*control), -1);
+                turn_wheel(t_->widget(*control), 2);
+                QCOMPARE(combo.text(), before);
+                QVERIFY(!t_->widget(*control).hasFocus());
+                ++combos;
+            } else if (control->kind() == Kind::text_box) {
+                const std::string before = static_cast<TextBox&>(*control).text();
+                turn_wheel(t_->widget(*control), 1);
+                QCOMPARE(static_cast<TextBox&>(*control).text(), before);
+            }
+        }
+        QVERIFY(combos > 25);
+    }
+
+    void it_turns_a_combo_that_has_the_focus_as_a_pick() {
+        frmKalco& form = t_->form();
+        t_->binder().act([&] {
+            user::pick(form, form.cboSeqSQ, 10);
+            user::pick(form, form.cboVel, 3);
+        });
+        QVERIFY(t_->widget(form.cboVel).hasFocus());
+        turn_wheel(t_->widget(form.cboVel), -1);
+        QCOMPARE(form.cboVel.row(), 4);
+        QCOMPARE(t_->widget<app::PickCombo>(form.cboVel).shown_text(), QStringLiteral("16"));
+    }
+
+    void it_does_not_leave_the_tab() {
+        QTabBar& bar = *t_->widget<QTabWidget>(t_->form().SSTab1).tabBar();
+        turn_wheel(bar, -1);
+        QCOMPARE(t_->form().SSTab1.tab(), tab::players);
+    }
+
+private:
+    test::DemoHome home_;
+    std::unique_ptr<test::TestWindow> t_;
+};
+
+QTEST_MAIN(TestWheel)
+#include "test_wheel.moc"
