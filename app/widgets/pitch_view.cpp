@@ -21,7 +21,7 @@ QColor line_colour(const QString& caption) {
     return QColor(0x55, 0x55, 0x5d);
 }
 
-QPainterPath shirt(const QRectF& area) {
+QPainterPath shirt_outline(const QRectF& area) {
     const auto at = [&area](double x, double y) {
         return QPointF(area.left() + x * area.width(), area.top() + y * area.height());
     };
@@ -39,6 +39,26 @@ QPainterPath shirt(const QRectF& area) {
     path.lineTo(at(0.22, 0.08));
     path.closeSubpath();
     return path;
+}
+
+struct Shirt {
+    QColor fill;
+    QColor ink = Qt::white;
+    QColor edge = Qt::white;
+};
+
+/// The label's words stand below each other.
+void draw_shirt(QPainter& painter, const QRectF& area, const Shirt& shirt, const QString& label) {
+    painter.setBrush(shirt.fill);
+    painter.setPen(QPen(shirt.edge, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPath(shirt_outline(area));
+    QFont font = painter.font();
+    font.setBold(true);
+    font.setPixelSize(std::max(8, static_cast<int>(area.height() * 0.3)));
+    painter.setFont(font);
+    painter.setPen(shirt.ink);
+    const QRectF chest(area.left(), area.top() + area.height() * 0.2, area.width(), area.height() * 0.74);
+    painter.drawText(chest, Qt::AlignCenter, QString(label).replace(u' ', u'\n'));
 }
 
 void draw_lines(QPainter& painter, const QRectF& field) {
@@ -115,29 +135,17 @@ void MarkerView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     if (!isEnabled()) painter.setOpacity(0.45);
-    QColor ink = Qt::white;
-    QColor fill = line_colour(caption_);
-    const QRectF area = QRectF(rect()).adjusted(2, 2, -2, -2);
+    Shirt shirt;
+    shirt.fill = line_colour(caption_);
+    shirt.edge = QColor(255, 255, 255, 230);
     if (selected_) {
-        std::swap(ink, fill);
+        std::swap(shirt.ink, shirt.fill);
+        shirt.edge = shirt.ink;
         painter.setPen(Qt::NoPen);
         painter.setBrush(QColor(255, 235, 80, 150));
         painter.drawEllipse(QRectF(rect()));
     }
-    painter.setBrush(fill);
-    painter.setPen(QPen(selected_ ? ink : QColor(255, 255, 255, 230), selected_ ? 2.0 : 1.4, Qt::SolidLine,
-                        Qt::RoundCap, Qt::RoundJoin));
-    painter.drawPath(shirt(area));
-
-    const QString role = visible_text(caption_.section(u' ', 0, 0));
-    const QString side = visible_text(caption_.section(u' ', 1));
-    QFont text_font = font();
-    text_font.setBold(true);
-    text_font.setPixelSize(std::max(8, static_cast<int>(area.height() * (side.isEmpty() ? 0.31 : 0.29))));
-    painter.setFont(text_font);
-    painter.setPen(ink);
-    const QRectF chest(area.left(), area.top() + area.height() * 0.2, area.width(), area.height() * 0.74);
-    painter.drawText(chest, Qt::AlignCenter, side.isEmpty() ? role : role + u'\n' + side);
+    draw_shirt(painter, QRectF(rect()).adjusted(2, 2, -2, -2), shirt, visible_text(caption_));
 }
 
 void MarkerView::mousePressEvent(QMouseEvent* event) {
@@ -209,6 +217,12 @@ void PitchView::paintEvent(QPaintEvent*) {
     draw_lines(painter, field);
     QFont small_font = font();
     small_font.setPixelSize(std::max(10, static_cast<int>(area.height() * 0.026)));
+    // The keeper is no marker; he tells the own goal.
+    const QSizeF size = marker_size();
+    const QRectF keeper(field.left() - size.width() * 0.3, field.center().y() - size.height() / 2, size.width(),
+                        size.height());
+    draw_shirt(painter, keeper.adjusted(2, 2, -2, -2),
+               {QColor(0x4a, 0x4e, 0x57), QColor(255, 255, 255, 200), Qt::white}, QStringLiteral("P"));
     draw_direction(painter, field, strip, small_font);
     painter.setClipping(false);
     if (!isEnabled()) {

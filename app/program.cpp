@@ -1,0 +1,63 @@
+#include "app/program.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <utility>
+
+#include "app/style.h"
+#include "runtime_error.h"
+#include "window/user.h"
+
+namespace kalco::app {
+
+void prepare_application() {
+    QApplication::setApplicationName(QStringLiteral("kalco"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Kalco"));
+    QApplication::setDesktopFileName(QStringLiteral("org.kalco.Kalco"));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icon/kalco.svg")));
+    QApplication::setStyle(new Style);
+    // Closing the first dialog must not end the program; the window's end does.
+    QApplication::setQuitOnLastWindowClosed(false);
+}
+
+Program::Program(StorageOpener opener) : editor_(platform_, std::move(opener)), window_(editor_.form) {
+    Binder& binder = window_.binder();
+    platform_.set_window(&window_);
+    platform_.before_box = [&binder] { binder.sync(); };
+    QObject::connect(&window_, &KalcoWindow::image_dropped, &window_, [this, &binder](const QString& path) {
+        platform_.choose_next(path);
+        binder.act([this] { user::click(editor_.form, editor_.form.cmdOpen); });
+    });
+    binder.on_failure = [this](const std::exception_ptr& failure) { fail(failure); };
+    binder.on_ended = [this] { end(editor_.form.ended == Ending::denied ? exit_failed : exit_done); };
+}
+
+int Program::run() {
+    window_.start();
+    if (status_) return *status_;
+    waiting_ = true;
+    return QApplication::exec();
+}
+
+void Program::end(int status) {
+    status_ = status;
+    window_.hide();
+    if (waiting_) QCoreApplication::exit(status);
+}
+
+void Program::fail(const std::exception_ptr& failure) {
+    try {
+        std::rethrow_exception(failure);
+    } catch (const RuntimeError& error) {
+        const std::string title = "Errore di run-time '" + std::to_string(error.number()) + "':\n";
+        platform_.message(title + std::string(error.text()), Icon::stop, Buttons::ok);
+    }
+    try {
+        editor_.form.image.close();
+    } catch (const RuntimeError&) {
+        // The first error has been told, and what was written stays.
+    }
+    end(exit_failed);
+}
+
+}  // namespace kalco::app
