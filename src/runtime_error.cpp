@@ -17,7 +17,7 @@ std::string_view run_time_error_text(int number) {
         case error::resource_not_found: return "Risorsa non trovata";
         case error::no_such_element: return "Elemento della matrice di controlli inesistente";
         case error::invalid_property: return "Valore di propriet\xE0 non valido";
-        default: return {};
+        default: return "";
     }
 }
 

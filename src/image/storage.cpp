@@ -70,9 +70,10 @@ private:
     FileDescriptor fd_;
 };
 
-/// Both kinds of lock are taken, so that a program that knows only one of them is met as well.
+/// Both kinds of lock are taken, so that a program that knows only one of them is met as well. A file system without
+/// locks opens the file all the same.
 bool lock_exclusively(int fd) {
-    if (::flock(fd, LOCK_EX | LOCK_NB) != 0) return false;
+    if (::flock(fd, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) return false;
 #ifdef F_OFD_SETLK
     struct flock whole {};
     whole.l_type = F_WRLCK;
