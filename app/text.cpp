@@ -1,5 +1,7 @@
 #include "app/text.h"
 
+#include <QList>
+
 namespace kalco::app {
 
 QString qt_text(std::string_view text) {

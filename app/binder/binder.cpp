@@ -23,14 +23,16 @@ QString widget_name(const Control& control) {
 
 }  // namespace
 
-Binder::Binder(frmKalco& form, QWidget& window) : form_(form), window_(window) {
+Binder::Binder(frmKalco& form, QWidget& window)
+    : form_(form),
+      window_(window),
+      tabs_(window.findChild<QTabWidget*>(widget_name(form.SSTab1))) {
     for (Control* control : form_.registry.all()) {
         if (!control->on_screen()) continue;
         auto* const widget = window_.findChild<QWidget*>(widget_name(*control));
         if (widget == nullptr) throw std::logic_error("no widget is named as " + control->name());
         bind(*control, *widget);
     }
-    tabs_ = qobject_cast<QTabWidget*>(widget_of(form_.SSTab1));
     sync();
 }
 
