@@ -2,53 +2,14 @@
 
 #include <gtest/gtest.h>
 
-#include "codec/hextext.h"
-#include "kickers/kickers_file.h"
+#include "kicker_tab.h"
 #include "players/roster.h"
-#include "support/editor_run.h"
+#include "runtime_error.h"
 
 namespace kalco {
 namespace {
 
-using Texts = std::vector<std::string>;
-using test::EditorRun;
-
-const std::string saved = "Salvataggio effettuato con successo";
-
-ImagePos printed_position(int row) {
-    if (row == 86) return 2329629;
-    return row < 54 ? 2329057 + 6 * row : 2329429 + 6 * (row - 53);
-}
-
-/// An image in which every team's record holds 2, 5, 3, 3, 6, 7.
-std::string kicker_image() {
-    std::string image = test::filled_image();
-    for (int row = 0; row < 87; ++row) test::put(image, printed_position(row), "\x02\x05\x03\x03\x06\x07");
-    return image;
-}
-
-class KickerTab : public EditorRun {
-public:
-    explicit KickerTab(const std::string& image = kicker_image()) : EditorRun(image) {
-        user::select_tab(form, tab::kickers);
-    }
-
-    void choose(int row) { EXPECT_EQ(user::pick(form, form.cboSquadra, row), user::Outcome::done); }
-    void import_line(const std::string& contents) { import(form.cmdImpKick, contents); }
-
-    /// The selected row of each column, -1 for none.
-    std::vector<int> selected() {
-        std::vector<int> rows;
-        for (auto* column : {&form.opCPC, &form.opCPL, &form.opCAD, &form.opCAS, &form.opRIG, &form.opCAP}) {
-            int found = -1;
-            for (int row = 0; row <= 10; ++row) {
-                if ((*column)(row).value()) found = found == -1 ? row : 99;
-            }
-            rows.push_back(found);
-        }
-        return rows;
-    }
-};
+using namespace kicker_tests;
 
 TEST(SetPiecePlaces, AreThePrintedOnes) {
     for (int row = 0; row < 87; ++row) {
@@ -86,6 +47,70 @@ TEST(SetPieceChoice, ShowsNamesAndPicks) {
     }
 }
 
+TEST(SetPieceChoice, ReadsTheRecordOfEveryRow) {
+    std::string image = kicker_image();
+    const auto pick_of = [](int row, int column) { return (row + 3 * column) % 11; };
+    for (int row = 0; row < 87; ++row) {
+        for (int column = 0; column < 6; ++column) {
+            test::put(image, printed_position(row) + column, std::string(1, static_cast<char>(pick_of(row, column))));
+        }
+    }
+    KickerTab tab(image);
+    for (int row = 86; row >= 0; --row) {
+        const int before = tab.NEW_NAME_ML;
+        tab.choose(row);
+        for (int column = 0; column < 6; ++column) {
+            EXPECT_EQ(tab.selected()[static_cast<std::size_t>(column)], pick_of(row, column)) << row << ' ' << column;
+        }
+        EXPECT_EQ(tab.NEW_NAME_ML - before, row >= 54 && row < 86 ? 1 : 0) << row;
+    }
+    EXPECT_EQ(tab.disc.writes, 0);
+}
+
+TEST(SetPieceChoice, EveryButtonIsTheByteOfItsRow) {
+    KickerTab tab;
+    tab.choose(7);
+    for (std::size_t column = 0; column < 6; ++column) {
+        std::string expected = tab.record(7);
+        for (int step = 0; step <= 10; ++step) {
+            const int row = 10 - step;
+            tab.click((*tab.columns()[column])(row));
+            tab.click(tab.form.cmdCrea);
+            expected[column] = static_cast<char>(row);
+            EXPECT_EQ(tab.record(7), expected) << column << ' ' << row;
+            EXPECT_EQ(tab.form.txtHex.text().substr(2 * column, 2), row == 10 ? "0A" : '0' + std::to_string(row));
+        }
+    }
+}
+
+TEST(SetPieceChoice, AnUnsavedChangeIsLostWithAnotherTeam) {
+    KickerTab tab;
+    tab.choose(7);
+    tab.click(tab.form.opCAD(9));
+    tab.choose(8);
+    tab.click(tab.form.cmdCrea);
+    EXPECT_TRUE(test::same_image(tab.disc.bytes, kicker_image()));
+}
+
+TEST(SetPieceChoice, EveryByteBeyondTheButtonsStays) {
+    std::string image = kicker_image();
+    int byte = 0x0B;
+    for (int row = 0; row < 87; ++row) {
+        for (int column = 0; column < 6; ++column) {
+            test::put(image, printed_position(row) + column, std::string(1, static_cast<char>(byte)));
+            byte = byte == 0xFF ? 0x0B : byte + 1;
+        }
+    }
+    KickerTab tab(image);
+    for (int row = 0; row < 87; ++row) {
+        tab.choose(row);
+        EXPECT_EQ(tab.selected(), std::vector<int>(6, -1)) << row;
+        tab.click(tab.form.cmdCrea);
+    }
+    EXPECT_TRUE(test::same_image(tab.disc.bytes, image));
+    EXPECT_EQ(tab.disc.flushes, 87);
+}
+
 TEST(SetPieceChoice, AllZeroSelectsTheFirstPlayerEverywhere) {
     std::string image = kicker_image();
     for (const int row : {3, 4}) test::put(image, printed_position(row), std::string(6, '\0'));
@@ -116,10 +141,7 @@ TEST(SetPieceSave, EveryRowWritesItsRecordAndNothingElse) {
 TEST(SetPieceSave, OnePlayerMayHoldAllRoles) {
     KickerTab tab;
     tab.choose(1);
-    for (auto* column :
-         {&tab.form.opCPC, &tab.form.opCPL, &tab.form.opCAD, &tab.form.opCAS, &tab.form.opRIG, &tab.form.opCAP}) {
-        tab.click((*column)(9));
-    }
+    for (auto* column : tab.columns()) tab.click((*column)(9));
     tab.click(tab.form.cmdCrea);
     EXPECT_EQ(tab.disc.at(printed_position(1), 6), std::string(6, '\x09'));
 }
@@ -148,6 +170,26 @@ TEST(SetPieceSave, LeavingTheTabKeepsTheFirstButtons) {
     EXPECT_EQ(tab.form.listAtt.count(), 0);
 }
 
+TEST(SetPieceSave, WithoutATeamDoesNothing) {
+    KickerTab tab;
+    tab.choose(3);
+    tab.form.cboSquadra.set_text("");
+    for (CommandButton* button : {&tab.form.cmdCrea, &tab.form.cmdExpKick, &tab.form.cmdImpKick}) tab.click(*button);
+    EXPECT_TRUE(tab.told().empty());
+    EXPECT_EQ(tab.disc.writes, 0);
+    EXPECT_EQ(tab.platform.dialogs.size(), 1U) << "only the one of the start";
+}
+
+TEST(SetPieceSave, WithoutAPathTheReopeningEndsTheProgram) {
+    KickerTab tab;
+    tab.choose(3);
+    tab.click(tab.form.opCPC(10));
+    tab.form.ImagePath.clear();
+    EXPECT_EQ(test::error_of([&] { user::click(tab.form, tab.form.cmdCrea); }), error::path_access);
+    EXPECT_EQ(tab.told(), (Texts{saved}));
+    EXPECT_EQ(tab.record(3), "\x0A\x05\x03\x03\x06\x07");
+}
+
 TEST(SetPieceSave, FailingWritesAreTold) {
     test::expect_every_failing_write_to_stop(
         [](EditorRun& run) {
@@ -155,83 +197,6 @@ TEST(SetPieceSave, FailingWritesAreTold) {
             user::pick(run.form, run.form.cboSquadra, 86);
         },
         [](EditorRun& run) { user::click(run.form, run.form.cmdCrea); }, 1);
-}
-
-TEST(KickersFile, CarriesWhatIsSaved) {
-    KickerTab tab;
-    tab.choose(2);
-    tab.click(tab.form.opCPC(10));
-    tab.click(tab.form.cmdExpKick);
-    EXPECT_EQ(tab.told(), (Texts{"File creato con successo"}));
-    const std::string path = "Kickers&Capitani/" + test::table_name(2).substr(0, 7) + ".kcp";
-    EXPECT_EQ(tab.home.read(path), "020503030607\r\n") << "a pick that is not saved is not exported";
-    tab.click(tab.form.cmdCrea);
-    tab.click(tab.form.cmdExpKick);
-    EXPECT_EQ(tab.home.read(path), "0A0503030607\r\n");
-}
-
-TEST(KickersFile, ANameThatCannotBeAFilesIsTold) {
-    std::string image = kicker_image();
-    test::put(image, 2830941, std::string("A/B\0\0\0\0", 7));
-    KickerTab tab(image);
-    tab.choose(0);
-    tab.click(tab.form.cmdExpKick);
-    EXPECT_EQ(tab.platform.messages.back().icon, Icon::stop);
-    EXPECT_EQ(tab.told(), (Texts{"Nome o numero di file non valido"}));
-}
-
-TEST(KickersImport, WritesHalfAsManyBytesAsTheLineHasDigits) {
-    struct Case {
-        std::string line;
-        std::string bytes;
-    };
-    const std::vector<Case> cases{
-        {"0", ""},
-        {"010203", std::string("\x01\x02\x03", 3)},
-        {"010203040506", std::string("\x01\x02\x03\x04\x05\x06", 6)},
-        {"0102030405067", std::string("\x01\x02\x03\x04\x05\x06", 6)},
-        {"01020304050607", std::string("\x01\x02\x03\x04\x05\x06\x07", 7)},
-        {std::string(200, '0'), std::string(100, '\0')},
-        {"zz1z0a", std::string("\x00\x01\x0A", 3)},
-    };
-    for (const Case& each : cases) {
-        for (const int row : {0, 30, 54}) {
-            KickerTab tab;
-            tab.choose(row);
-            tab.import_line(each.line + "\r\nFFFFFFFFFFFF\r\n");
-            EXPECT_EQ(tab.told(), (Texts{saved})) << each.line;
-            std::string expected = kicker_image();
-            test::put(expected, printed_position(row), each.bytes);
-            EXPECT_TRUE(test::same_image(tab.disc.bytes, expected)) << each.line;
-            EXPECT_EQ(tab.form.txtHex.text(), hex_digits(tab.disc.at(printed_position(row), 6)));
-        }
-    }
-}
-
-TEST(KickersImport, AnEmptyLineWritesNothingAndSaysSo) {
-    KickerTab tab;
-    tab.choose(8);
-    tab.click(tab.form.opCPC(10));
-    tab.import_line("\r\n0102");
-    EXPECT_EQ(tab.told(), (Texts{saved}));
-    EXPECT_TRUE(test::same_image(tab.disc.bytes, kicker_image()));
-    EXPECT_EQ(tab.selected().front(), 2) << "the picks on the screen are lost";
-}
-
-TEST(KickersImport, AFileWithoutALineIsTold) {
-    KickerTab tab;
-    tab.choose(8);
-    tab.import_line("");
-    EXPECT_EQ(tab.platform.messages.back().icon, Icon::stop);
-    EXPECT_EQ(tab.told(), (Texts{"Input dopo la fine del file"}));
-    tab.platform.choices = {tab.home.path("missing.kcp")};
-    tab.click(tab.form.cmdImpKick);
-    EXPECT_EQ(tab.told(), (Texts{"Impossibile trovare il file"}));
-    tab.platform.choices = {""};
-    tab.click(tab.form.cmdImpKick);
-    EXPECT_TRUE(tab.told().empty());
-    EXPECT_EQ(tab.platform.dialogs.back().filter, "*.kcp|*.kcp");
-    EXPECT_EQ(tab.disc.writes, 0);
 }
 
 }  // namespace

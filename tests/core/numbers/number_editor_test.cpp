@@ -3,60 +3,14 @@
 #include <gtest/gtest.h>
 
 #include "codec/hextext.h"
-#include "numbers/number_record.h"
+#include "number_tab.h"
 #include "players/roster.h"
 #include "runtime_error.h"
-#include "support/editor_run.h"
 
 namespace kalco {
 namespace {
 
-using Entries = std::vector<std::string>;
-
-/// An image whose nations have the numbers 1 to 23 in roster order, and whose clubs and default team 31 to 53.
-std::string numbered_image() {
-    std::string image = test::filled_image();
-    Entries national;
-    Entries club;
-    for (int player = 1; player <= 23; ++player) {
-        national.push_back(number_entry(player));
-        club.push_back(number_entry(player + 30));
-    }
-    for (int row = 0; row < 87; ++row) {
-        const std::string digits = row < 54 ? pack_national_numbers(national) : pack_club_numbers(club);
-        test::put(image, number_field(row).position(), bytes_of_digits(digits));
-    }
-    return image;
-}
-
-class NumberTab : public test::EditorRun {
-public:
-    explicit NumberTab(const std::string& image = numbered_image()) : EditorRun(image) {
-        user::select_tab(form, tab::numbers);
-    }
-
-    void choose(int row) { EXPECT_EQ(user::pick(form, form.cboSQNum, row), user::Outcome::done); }
-    void choose_player_of_tab(int row) { EXPECT_EQ(user::pick(form, form.ListName, row), user::Outcome::done); }
-    void give(int row, const std::string& number) {
-        choose_player_of_tab(row);
-        type(form.txtNumMod, number);
-        click(form.cmdModNum);
-    }
-    void import_line(const std::string& contents) { import(form.cmdImpNum, contents); }
-    std::vector<int> cells_in_use() {
-        std::vector<int> cells;
-        for (int number = 1; number <= 99; ++number) {
-            if (form.lblNum(number).in_use()) cells.push_back(number);
-        }
-        return cells;
-    }
-    std::string record(int row) const {
-        const Pieces field = number_field(row);
-        return disc.at(field.position(), static_cast<std::size_t>(field.bytes()));
-    }
-};
-
-const std::string saved = "Salvataggio effettuato con successo";
+using namespace number_tests;
 
 TEST(NumberTabEntry, HasNothingOnUntilATeamIsChosen) {
     NumberTab tab;
@@ -89,6 +43,46 @@ TEST(NumberTabChoice, ShowsNamesNumbersAndBoard) {
     }
     EXPECT_EQ(tab.form.txtSqSel.text(), "") << "the default team has no name";
     EXPECT_EQ(tab.disc.writes, 0);
+}
+
+TEST(NumberTabChoice, ReadsTheRecordOfEveryRow) {
+    std::string image = numbered_image();
+    std::vector<Entries> numbers;
+    for (int row = 0; row < 87; ++row) {
+        numbers.push_back(rising_from(row < 54 ? 1 + row % 10 : 1 + row % 70));
+        const std::string digits = row < 54 ? pack_national_numbers(numbers.back()) : pack_club_numbers(numbers.back());
+        test::put(image, number_field(row).position(), bytes_of_digits(digits));
+    }
+    NumberTab tab(image);
+    for (int row = 86; row >= 0; --row) {
+        const int before = tab.NEW_NAME_ML;
+        tab.choose(row);
+        EXPECT_EQ(tab.form.ListNum.items(), numbers[static_cast<std::size_t>(row)]) << row;
+        EXPECT_EQ(tab.NEW_NAME_ML - before, row >= 54 && row < 86 ? 1 : 0) << row;
+        EXPECT_GE(tab.form.ListName.count(), 23) << row;
+        EXPECT_EQ(tab.cells_in_use().size(), 23U) << row;
+    }
+    EXPECT_EQ(tab.disc.writes, 0);
+}
+
+TEST(NumberTabChoice, MisreadNumbersAreWrittenBackAsTheyWereRead) {
+    const std::string word = "\x41\x80\x41\x0A";
+    NumberTab tab(numbered_image(9, word));
+    tab.choose(9);
+    for (const auto& [row, entry] :
+         std::vector<std::pair<int, std::string>>{{0, "02"}, {1, "03"}, {2, "32"}, {3, "03"}, {4, "05"}, {5, "06"}}) {
+        EXPECT_EQ(tab.form.ListNum.item(row), entry) << row;
+    }
+    tab.give(22, "31");
+    tab.click(tab.form.cmdSaveNum);
+    EXPECT_EQ(hex_digits(tab.record(9).substr(0, 4)), "417C410A");
+}
+
+TEST(NumberTabChoice, ATeamNameThatBeginsWithABlankByteEndsTheProgram) {
+    std::string image = numbered_image();
+    test::put(image, 2003965, " ");
+    NumberTab tab(image);
+    EXPECT_EQ(test::error_of([&] { user::pick(tab.form, tab.form.cboSQNum, 1); }), error::invalid_call);
 }
 
 TEST(NumberTabChoice, AClubWithANumberAbove99IsRefused) {
@@ -133,6 +127,38 @@ TEST(NumberLists, ANameWithoutANumberDoesNothing) {
     tab.choose_player_of_tab(23);
     EXPECT_FALSE(tab.form.cmdModNum.enabled());
     EXPECT_EQ(tab.form.txtNumMod.text(), "");
+}
+
+TEST(NumberLists, AreEmptyAfterTheTabWasLeft) {
+    NumberTab tab;
+    tab.choose(2);
+    tab.give(0, "32");
+    const std::string packed = tab.form.PackedNumberText;
+    user::select_tab(tab.form, tab::transfers);
+    user::select_tab(tab.form, tab::numbers);
+    EXPECT_EQ(tab.form.cboSQNum.row(), -1);
+    EXPECT_EQ(tab.form.ListName.count() + tab.form.ListNum.count(), 0);
+    EXPECT_EQ(tab.form.txtNumMod.text() + tab.form.txtSqSel.text(), "");
+    EXPECT_TRUE(tab.cells_in_use().empty());
+    EXPECT_FALSE(tab.form.cmdImpNum.enabled());
+    EXPECT_EQ(tab.form.PackedNumberText, packed);
+    tab.choose(3);
+    tab.choose_player_of_tab(0);
+    tab.click(tab.form.cmdSaveNum);
+    EXPECT_TRUE(test::same_image(tab.disc.bytes, numbered_image(3, bytes_of_digits(packed))));
+}
+
+TEST(NumberField, IsSelectedWithItsTwoDigits) {
+    NumberTab tab;
+    tab.choose(0);
+    tab.form.txtNumMod.take_selection();
+    tab.choose_player_of_tab(6);
+    ASSERT_TRUE(tab.form.txtNumMod.has_selection_request());
+    const TextBox::Selection selection = tab.form.txtNumMod.take_selection();
+    EXPECT_EQ(selection.start, 0);
+    EXPECT_EQ(selection.length, 2);
+    tab.give(6, "33");
+    EXPECT_TRUE(tab.form.txtNumMod.has_selection_request());
 }
 
 TEST(NumberField, TakesTwoDigitsAndPadsOne) {
@@ -188,6 +214,38 @@ TEST(NumberChange, ADoubledOldNumberLeavesTheBoard) {
     EXPECT_EQ(tab.form.ListNum.item(1), "05");
 }
 
+TEST(NumberChange, OnlyTheFirstOfTwoWearersTakesTheOldNumber) {
+    Entries numbers = rising_from(31);
+    numbers[4] = numbers[1];
+    NumberTab tab(numbered_image(54, bytes_of_digits(pack_club_numbers(numbers))));
+    tab.choose(54);
+    tab.give(0, "32");
+    std::swap(numbers[0], numbers[1]);
+    EXPECT_EQ(tab.form.ListNum.items(), numbers);
+    EXPECT_EQ(numbers[4], "32");
+    EXPECT_TRUE(tab.form.lblNum(31).in_use());
+    EXPECT_TRUE(tab.form.lblNum(32).in_use());
+}
+
+TEST(NumberChange, RefusesATeamThatCannotBePacked) {
+    NumberTab tab;
+    tab.choose(20);
+    tab.import_line("2221zz");
+    const Entries before = tab.form.ListNum.items();
+    ASSERT_EQ(before[2], "zz");
+    const std::string packed = tab.form.PackedNumberText;
+    const std::vector<int> cells = tab.cells_in_use();
+    tab.give(10, "30");
+    EXPECT_EQ(tab.form.ListNum.items(), before);
+    EXPECT_EQ(tab.form.PackedNumberText, packed);
+    EXPECT_EQ(tab.cells_in_use(), cells);
+    EXPECT_TRUE(tab.told().empty());
+    tab.give(2, "30");
+    EXPECT_EQ(tab.form.ListNum.item(2), "30") << "the number that replaces the bad one can be packed";
+    EXPECT_TRUE(tab.form.lblNum(30).in_use());
+    EXPECT_NE(tab.form.PackedNumberText, packed);
+}
+
 TEST(NumberChange, NationsStopAt32) {
     NumberTab tab;
     tab.choose(0);
@@ -233,6 +291,30 @@ TEST(NumberSave, EveryRowWritesItsRecordAndNothingElse) {
     }
 }
 
+TEST(NumberSave, WithoutATeamDoesNothing) {
+    NumberTab tab;
+    tab.choose(0);
+    tab.give(0, "30");
+    tab.form.cboSQNum.set_text("");
+    for (CommandButton* button :
+         {&tab.form.cmdModNum, &tab.form.cmdSaveNum, &tab.form.cmdImpNum, &tab.form.cmdExpNum}) {
+        tab.click(*button);
+    }
+    EXPECT_TRUE(tab.told().empty());
+    EXPECT_EQ(tab.disc.writes, 0);
+    EXPECT_EQ(tab.platform.dialogs.size(), 1U) << "only the one of the start";
+}
+
+TEST(NumberSave, WithoutAPathTheReopeningEndsTheProgram) {
+    NumberTab tab;
+    tab.choose(0);
+    tab.give(0, "30");
+    tab.form.ImagePath.clear();
+    EXPECT_EQ(test::error_of([&] { user::click(tab.form, tab.form.cmdSaveNum); }), error::path_access);
+    EXPECT_EQ(tab.told(), (Entries{saved}));
+    EXPECT_EQ(hex_digits(tab.record(0)), tab.form.PackedNumberText);
+}
+
 TEST(NumberSave, NothingPackedWritesNothing) {
     NumberTab tab;
     tab.choose(7);
@@ -265,79 +347,6 @@ TEST(NumberSave, FailingWritesAreTold) {
             user::pick(run.form, run.form.ListName, 0);
         },
         [](test::EditorRun& run) { user::click(run.form, run.form.cmdSaveNum); }, 1);
-}
-
-TEST(NumbersFile, CarriesTheListUnderThePrefix) {
-    NumberTab tab;
-    tab.choose(0);
-    tab.give(0, "30");
-    tab.click(tab.form.cmdExpNum);
-    EXPECT_EQ(tab.told(), (Entries{"File creato con successo"}));
-    std::string line = "30";
-    for (int player = 2; player <= 23; ++player) line += number_entry(player);
-    const std::string name = test::in_capitals(test::full_width_name(0));
-    std::string padded = name;
-    padded.resize(tab.form.txtSqSel.text().size(), ' ');
-    EXPECT_EQ(tab.home.read("N\xC2\xB0 Maglia/NAZ_" + padded + ".num"), line + "\r\n");
-    tab.choose(86);
-    tab.click(tab.form.cmdExpNum);
-    EXPECT_TRUE(tab.home.has("N\xC2\xB0 Maglia/ML_.num"));
-}
-
-TEST(NumbersImport, RewritesTheRecord) {
-    NumberTab tab;
-    tab.choose(12);
-    std::string line;
-    for (int player = 23; player >= 1; --player) line += number_entry(player);
-    tab.import_line(line + "\r\nsecond line");
-    EXPECT_EQ(tab.told(), (Entries{saved}));
-    EXPECT_EQ(tab.form.ListNum.item(0), "23");
-    EXPECT_EQ(tab.form.ListNum.item(22), "01");
-    std::string expected = numbered_image();
-    test::put(expected, number_field(12).position(), bytes_of_digits(tab.form.PackedNumberText));
-    EXPECT_TRUE(test::same_image(tab.disc.bytes, expected));
-    EXPECT_EQ(tab.disc.writes, 23);
-}
-
-TEST(NumbersImport, StopsAt33WithTheFirstNumbersWritten) {
-    NumberTab tab;
-    tab.choose(12);
-    std::string line;
-    for (int player = 1; player <= 23; ++player) line += player == 10 ? "33" : number_entry(33 - player);
-    tab.import_line(line);
-    EXPECT_EQ(tab.platform.messages.back().icon, Icon::stop);
-    EXPECT_EQ(tab.told(), (Entries{"Impossibile importare numeri superiori\r\n      al 32 per le squadre nazionali"}));
-    EXPECT_EQ(tab.disc.writes, 9);
-    EXPECT_EQ(tab.disc.flushes, 0) << "the image is not reopened on this path";
-    for (int player = 1; player <= 23; ++player) {
-        EXPECT_EQ(tab.form.ListNum.item(player - 1), number_entry(player < 10 ? 33 - player : player)) << player;
-    }
-}
-
-TEST(NumbersImport, OtherFailuresAreSilent) {
-    for (const char* contents : {"010203zz05", "0102", "", "zz"}) {
-        NumberTab tab;
-        tab.choose(12);
-        tab.import_line(contents);
-        EXPECT_TRUE(tab.told().empty()) << contents;
-        EXPECT_EQ(tab.disc.flushes, 0);
-    }
-    NumberTab tab;
-    tab.choose(12);
-    tab.platform.choices = {tab.home.path("missing.num")};
-    tab.click(tab.form.cmdImpNum);
-    EXPECT_TRUE(tab.told().empty());
-    tab.platform.choices = {""};
-    tab.click(tab.form.cmdImpNum);
-    EXPECT_EQ(tab.disc.writes, 0);
-    EXPECT_EQ(tab.platform.dialogs.back().filter, "*.num|*.num");
-}
-
-TEST(NumbersImport, ThePrefixPlaysNoPart) {
-    NumberTab tab;
-    tab.choose(54);
-    tab.import_line("4531323334353637383940414243444647484950515253");
-    EXPECT_EQ(tab.record(54).substr(0, 2), std::string("\x2C\x1E", 2));
 }
 
 }  // namespace
