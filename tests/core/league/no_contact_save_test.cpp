@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <ostream>
 
 #include "league/pool_codes.h"
 #include "league_run.h"
@@ -115,6 +116,8 @@ struct SplitName {
     std::string name;
     std::string first;
     std::string second;
+
+    friend void PrintTo(const SplitName& split, std::ostream* out) { *out << '"' << split.name << '"'; }
 };
 class NameOfTwoPieces : public ::testing::TestWithParam<SplitName> {};
 
@@ -282,6 +285,13 @@ TEST(NoContactSave, MarksDefaultRowsLikeAllOthers) {
     run.disc.bytes = with_pool_name(run.disc.bytes, 3, "Altered   ");
     run.save();
     EXPECT_EQ(run.form.listNC.item(3), "Altered *");
+}
+
+TEST(NoContactSave, MarksTheTrimmedText) {
+    SaveRun run(24, test::team_file(source_team, 23));
+    run.disc.bytes = with_pool_name(run.disc.bytes, 6, std::string(" Ab \0 cd  ", 10));
+    run.save();
+    EXPECT_EQ(run.form.listNC.item(6), "Ab *");
 }
 
 TEST(NoContactSave, MarksOncePerRowAlsoAtTheNextSave) {
