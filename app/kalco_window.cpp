@@ -133,6 +133,14 @@ void KalcoWindow::connect_pitch() {
         CommandButton& along = down < 0 ? form_.cmdUp : form_.cmdDown;
         binder_->act([&] { user::click(form_, right != 0 ? across : along); }, Binder::Focus::stay);
     });
+    connect(pitch, &PitchView::turned, this, [this](int step) {
+        constexpr int markers = last_marker - first_marker + 1;
+        int next = step > 0 ? first_marker : last_marker;
+        for (int k = first_marker; k <= last_marker; ++k) {
+            if (form_.lblGioc(k).selected()) next = first_marker + (k - first_marker + step + markers) % markers;
+        }
+        binder_->act([&] { user::click(form_, form_.lblGioc(next)); }, Binder::Focus::stay);
+    });
 }
 
 void KalcoWindow::connect_board() {
@@ -179,7 +187,7 @@ void KalcoWindow::refresh_header() {
     path_->setText(path);
     path_->setToolTip(path);
     const bool pending = form_.ImportPending != 0 || form_.ImportPendingML != 0;
-    pending_->setText(pending ? QStringLiteral("Importazione in sospeso: niente arriva all'immagine finché non si "
+    pending_->setText(pending ? QStringLiteral("● Importazione in sospeso: niente arriva all'immagine finché non si "
                                                "preme «Salva», che scrive tutta la squadra.")
                               : QString());
 }

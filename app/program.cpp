@@ -2,6 +2,8 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QLibraryInfo>
+#include <QTranslator>
 #include <utility>
 
 #include "app/style.h"
@@ -16,6 +18,11 @@ void prepare_application() {
     QApplication::setDesktopFileName(QStringLiteral("org.kalco.Kalco"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icon/kalco.svg")));
     QApplication::setStyle(new Style);
+    // The words of Qt's own menus and dialogs, where the system has them.
+    auto* const words = new QTranslator(qApp);
+    if (words->load(QStringLiteral("qtbase_it"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        QCoreApplication::installTranslator(words);
+    }
     // Closing the first dialog must not end the program; the window's end does.
     QApplication::setQuitOnLastWindowClosed(false);
 }

@@ -52,6 +52,12 @@ void choose_a_club(benchmark::State& state) {
     desk.compare(state, [&desk] { user::pick(desk.form, desk.form.cboSeqSQ, first_club + 6); });
 }
 
+void resolve_the_links_of_a_club(benchmark::State& state) {
+    Desk desk;
+    user::pick(desk.form, desk.form.cboSeqSQ, first_club + 6);
+    desk.compare(state, [&desk] { desk.form.slots.NEW_NAME_ML(); });
+}
+
 void choose_a_team_for_its_formation(benchmark::State& state) {
     Desk desk;
     user::select_tab(desk.form, tab::formations);
@@ -85,8 +91,13 @@ void save_23_of_the_pool(benchmark::State& state) {
     Desk desk;
     user::pick(desk.form, desk.form.cboSeqSQ, 10);
     user::select_tab(desk.form, tab::league);
-    desk.compare(state, [&desk] {
+    const std::vector<std::string> names = desk.form.listDat.items();
+    const std::vector<std::string> records = desk.form.listApp.items();
+    desk.compare(state, [&desk, &names, &records] {
         frmKalco& form = desk.form;
+        // The save before has emptied them.
+        form.listDat.assign(names);
+        form.listApp.assign(records);
         user::pick(form, form.cboSqNC, 6);
         for (int row = 20; form.listAppNameNC.count() < roster_players; ++row) {
             user::double_click(form, form.listNC, row);
@@ -125,6 +136,7 @@ BENCHMARK(choose_the_list_of_462)->Arg(0)->Arg(1);
 BENCHMARK(show_a_player)->Arg(0)->Arg(1);
 BENCHMARK(save_a_player)->Arg(0)->Arg(1);
 BENCHMARK(choose_a_club)->Arg(0)->Arg(1);
+BENCHMARK(resolve_the_links_of_a_club)->Arg(0)->Arg(1);
 BENCHMARK(choose_a_team_for_its_formation)->Arg(0)->Arg(1);
 BENCHMARK(choose_a_team_for_its_numbers)->Arg(0)->Arg(1);
 BENCHMARK(choose_a_team_for_its_kickers)->Arg(0)->Arg(1);

@@ -163,6 +163,11 @@ bool Binder::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
         case QEvent::FocusIn: return focus_arrived(watched, *control, static_cast<QFocusEvent*>(event)->reason());
         case QEvent::KeyPress: return key_pressed(*control, static_cast<QKeyEvent*>(event)->key());
+        case QEvent::Shortcut:
+            // The button itself would wait for its picture to be pressed.
+            if (control->kind() != Kind::command_button) return false;
+            act([this, control] { user::click(form_, *control); });
+            return true;
         case QEvent::Wheel: return control->kind() == Kind::tab_control;  // Turning it must not leave the tab.
         default: return false;
     }

@@ -247,6 +247,8 @@ void PitchView::keyPressEvent(QKeyEvent* event) {
         case Qt::Key_Right: Q_EMIT stepped(1, 0); break;
         case Qt::Key_Up: Q_EMIT stepped(0, -1); break;
         case Qt::Key_Down: Q_EMIT stepped(0, 1); break;
+        case Qt::Key_PageDown: Q_EMIT turned(1); break;
+        case Qt::Key_PageUp: Q_EMIT turned(-1); break;
         default: QWidget::keyPressEvent(event);
     }
 }

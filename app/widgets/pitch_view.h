@@ -59,6 +59,8 @@ public:
 Q_SIGNALS:
     /// An arrow key: -1, 0 or 1 step to the right and downward.
     void stepped(int right, int down);
+    /// Page Down and Page Up: to the next (1) or previous (-1) marker.
+    void turned(int step);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

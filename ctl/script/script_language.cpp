@@ -146,18 +146,4 @@ std::string latin1_of_utf8(std::string_view text) {
     return result;
 }
 
-std::string utf8_of_latin1(std::string_view text) {
-    std::string result;
-    for (const char character : text) {
-        const auto code = static_cast<unsigned char>(character);
-        if (code < 0x80) {
-            result += character;
-        } else {
-            result += static_cast<char>(0xC0 | (code >> 6));
-            result += static_cast<char>(0x80 | (code & 0x3F));
-        }
-    }
-    return result;
-}
-
 }  // namespace kalco::script

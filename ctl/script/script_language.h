@@ -31,6 +31,5 @@ std::optional<Action> parse_line(std::string_view line);
 
 /// UTF-8 to one byte a character; what Latin-1 does not have becomes "?".
 std::string latin1_of_utf8(std::string_view text);
-std::string utf8_of_latin1(std::string_view text);
 
 }  // namespace kalco::script

@@ -25,4 +25,7 @@ std::string_view mid(std::string_view text, std::size_t place, std::size_t count
 
 std::string without_blanks(std::string_view text);
 
+/// Each byte as the character of that code.
+std::string utf8_of_latin1(std::string_view text);
+
 }  // namespace kalco

@@ -99,7 +99,7 @@ void Select_NAME(frmKalco& form) {
     if (is_nation(row)) {
         form.lblNameG.set_caption(national_player(form, row));
     } else if (is_club_row(row)) {
-        if (form.slots.NEW_NAME_ML) form.slots.NEW_NAME_ML();
+        raise(form.slots.NEW_NAME_ML);
     } else if (row == default_row) {
         form.lblNameG.set_caption(default_team_player(form));
     }

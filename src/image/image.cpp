@@ -48,7 +48,7 @@ void Image::write(const Pieces& field, std::string_view bytes) {
 }
 
 void Image::clear(const Pieces& field) {
-    for (const Piece& piece : field) write(piece.position, std::string(static_cast<std::size_t>(piece.bytes), '\0'));
+    for (const Piece& piece : field) write(piece.position, zero_bytes(static_cast<std::size_t>(piece.bytes)));
 }
 
 }  // namespace kalco

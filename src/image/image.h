@@ -9,6 +9,10 @@
 
 namespace kalco {
 
+inline std::string zero_bytes(std::size_t count) {
+    return std::string(count, '\0');
+}
+
 /// The one open image: strings of exact length at 1-based positions. Nothing of it is ever inspected or cached.
 /// Every operation without an open image is error 52.
 class Image {

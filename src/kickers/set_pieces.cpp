@@ -16,7 +16,7 @@ std::array<OptionColumn*, set_piece_columns> option_columns(frmKalco& form) {
 
 void show_names(frmKalco& form, int row) {
     if (is_club_row(row)) {
-        if (form.slots.NEW_NAME_ML) form.slots.NEW_NAME_ML();
+        raise(form.slots.NEW_NAME_ML);
         return;
     }
     for (int player = 0; player < set_piece_rows; ++player) {

@@ -11,10 +11,6 @@ constexpr int last_club_index = club_count - 1;
 /// The last club's entry is cleared with one byte more than it has: that is the end of the table.
 constexpr std::size_t last_club_cleared_bytes = 11;
 
-std::string zeroes(std::size_t count) {
-    return std::string(count, '\0');
-}
-
 /// What a renaming writes.
 struct ClubNames {
     std::string short_name;
@@ -26,7 +22,7 @@ void write_copies(Image& image, int club, const std::string& text) {
     const auto copies = Call_Name_ML(club);
     for (const std::size_t copy : {0U, 1U, 2U, 4U, 3U, 5U}) {
         const auto capacity = static_cast<std::size_t>(copies[copy].length);
-        image.write(copies[copy].position, zeroes(capacity));
+        image.write(copies[copy].position, zero_bytes(capacity));
         image.write(copies[copy].position, left(text, capacity));
     }
 }
@@ -38,7 +34,7 @@ void rename_club(frmKalco& form, int club, const ClubNames& names, Fill fill_of)
     ImagePos position = 0;
     int length = 0;
     Off_Name_ML(club, position, length);
-    if (club == last_club_index) form.image.write(position, zeroes(last_club_cleared_bytes));
+    if (club == last_club_index) form.image.write(position, zero_bytes(last_club_cleared_bytes));
     const auto letters = static_cast<std::size_t>(length / 2);
     const std::string cut(trim(left(names.long_name, letters)));
     const std::string coded = form.letters.encode(cut);
@@ -79,7 +75,7 @@ void SAVE_NAME_ML(frmKalco& form) {
     const std::string& old_name = form.lblNameML.caption();
     const ClubNames names{form.txtSqShort.text(), form.txtSqHEX.text(), form.txtSqDec.text()};
     rename_club(form, form.cboSqNC.row(), names, [&old_name](const std::string& cut, std::size_t) {
-        return cut.size() < old_name.size() ? zeroes(2 * old_name.size()) : std::string();
+        return cut.size() < old_name.size() ? zero_bytes(2 * old_name.size()) : std::string();
     });
 }
 
@@ -88,7 +84,7 @@ void SAVE_NAME_ML2(frmKalco& form) {
     ProperCase(long_name);
     const ClubNames names{form.txtNmShML.text(), long_name, form.txtNmLgML.text()};
     rename_club(form, form.listDefault.row(), names,
-                [](const std::string&, std::size_t letters) { return zeroes(2 * letters); });
+                [](const std::string&, std::size_t letters) { return zero_bytes(2 * letters); });
 }
 
 }  // namespace kalco

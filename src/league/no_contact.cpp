@@ -144,7 +144,7 @@ void listAppNameNC_DblClick(frmKalco& form) {
 }
 
 void cmdImpNC_Click(frmKalco& form) {
-    if (form.slots.cmdImp) form.slots.cmdImp();
+    raise(form.slots.cmdImp);
     form.cmdSaveNC.set_enabled(true);
 }
 

@@ -66,7 +66,7 @@ bool has_number_without_cell(const std::vector<std::string>& entries) {
 void show_names(frmKalco& form, int row) {
     if (is_club_row(row)) {
         form.ListName.clear();
-        if (form.slots.NEW_NAME_ML) form.slots.NEW_NAME_ML();
+        raise(form.slots.NEW_NAME_ML);
     } else {
         READ_NAMES(form);
     }

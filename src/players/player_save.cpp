@@ -19,10 +19,6 @@ namespace {
 constexpr int last_team_saved_here = 58;
 constexpr int digits_limit = 3;
 
-void run(const Event& slot) {
-    if (slot) slot();
-}
-
 bool is_digit(char character) {
     return character >= '0' && character <= '9';
 }
@@ -75,8 +71,8 @@ void RoutLung(frmKalco& form) {
     const bool pool = form.cboSeqSQ.row() == default_list_team;
     save_player(form);
     if (!pool) return;
-    run(form.slots.NAME_NO_CONTACT);
-    run(form.slots.CONTR_NAME_NC);
+    raise(form.slots.NAME_NO_CONTACT);
+    raise(form.slots.CONTR_NAME_NC);
 }
 
 void cmdSaveCar_GotFocus(frmKalco& form) {
@@ -91,17 +87,17 @@ void cmdSaveCar_Click(frmKalco& form) {
     if (has_cost(team)) Costo_ML(form);
     if (form.ImportPending == 1) {
         SAVE_NAME_SQ(form);
-        run(form.slots.SALV_IMP);
+        raise(form.slots.SALV_IMP);
         return;
     }
     if (form.ImportPendingML == 1) {
-        run(form.slots.SAVE_IMP_ML);
+        raise(form.slots.SAVE_IMP_ML);
         return;
     }
     pack_bytes(form, form.listApp.item(row));
     if (team <= last_team_saved_here) {
         save_player(form);
-        if (is_nation(team)) run(form.slots.NAMES_GIOC_NAZ);
+        if (is_nation(team)) raise(form.slots.NAMES_GIOC_NAZ);
     } else if (!is_club(team)) {
         RoutLung(form);
     }

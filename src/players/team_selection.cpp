@@ -30,7 +30,7 @@ void show_full_width_name(frmKalco& form, int team) {
 void read_roster(frmKalco& form, int team) {
     form.listDat.clear();
     if (is_club(team)) {
-        if (form.slots.NEW_NAME_ML) form.slots.NEW_NAME_ML();
+        raise(form.slots.NEW_NAME_ML);
         return;
     }
     const int players = player_count(team);

@@ -16,10 +16,6 @@ constexpr int last_team_saved_here = 52;
 constexpr int late_split_team = 1;
 constexpr int late_split_player = 21;
 
-void run(const Event& slot) {
-    if (slot) slot();
-}
-
 Pieces imported_record_field(int team, int player) {
     if (team == late_split_team) {
         const Pieces split = roster_record_field(team, late_split_player);
@@ -51,7 +47,7 @@ void SALV_IMP(frmKalco& form) {
         RoutLung2(form);
     }
     form.ImportPending = 0;
-    if (is_nation(team)) run(form.slots.NAMES_GIOC_NAZ);
+    if (is_nation(team)) raise(form.slots.NAMES_GIOC_NAZ);
 }
 
 void RoutLung2(frmKalco& form) {
@@ -72,8 +68,8 @@ void SAVE_IMP_ML(frmKalco& form) {
     finish_save(form, default_list_team);
     if (selected > 0) form.listDat.select(selected);
     form.ImportPendingML = 0;
-    run(form.slots.NAME_NO_CONTACT);
-    run(form.slots.CONTR_NAME_NC);
+    raise(form.slots.NAME_NO_CONTACT);
+    raise(form.slots.CONTR_NAME_NC);
 }
 
 void connect_import_save(frmKalco& form) {

@@ -4,7 +4,6 @@
 
 #include "codec/latin1.h"
 #include "codec/letters.h"
-#include "window/tabs.h"
 
 namespace kalco {
 namespace {

@@ -8,15 +8,16 @@
 
 #include "image/image.h"
 #include "image/position.h"
+#include "window/tabs.h"
 
 /// The 96 teams and the places of their names in the image.
 namespace kalco {
 
 inline constexpr int team_count = 96;
-inline constexpr int nation_count = 54;
+inline constexpr int nation_count = first_listless_team;
 /// Nations, all-star and classic teams: those with a roster of 23 of their own.
-inline constexpr int roster_team_count = 63;
-inline constexpr int first_club = 63;
+inline constexpr int roster_team_count = last_listless_team + 1;
+inline constexpr int first_club = roster_team_count;
 inline constexpr int club_count = 32;
 inline constexpr int last_club = first_club + club_count - 1;
 /// The list of the Master League's default players.
@@ -31,9 +32,9 @@ constexpr bool is_club(int team) {
 }
 
 /// Rows of the 87-row team lists: the nations, then the clubs, then the default team.
-inline constexpr int first_club_row = 54;
+inline constexpr int first_club_row = nation_count;
 inline constexpr int last_club_row = first_club_row + club_count - 1;
-inline constexpr int default_row = 86;
+inline constexpr int default_row = default_team_row;
 
 constexpr bool is_club_row(int row) {
     return row >= first_club_row && row <= last_club_row;

@@ -10,10 +10,6 @@ namespace {
 /// The last club's entry is cleared with one byte more than it has.
 constexpr int last_club_cleared_bytes = 11;
 
-std::string zeroes(std::size_t count) {
-    return std::string(count, '\0');
-}
-
 int whole_bytes(const Pieces& pieces, std::size_t piece) {
     return pieces[piece].bytes;
 }
@@ -21,7 +17,7 @@ int whole_bytes(const Pieces& pieces, std::size_t piece) {
 /// What is written over the old full-width name before the new one: nothing unless the name gets shorter.
 std::string full_width_fill(const frmKalco& form, std::string fill) {
     const std::string& old_name = form.old_names.full_width;
-    if (trim(form.txtSqHEX.text()).size() < trim(old_name).size()) fill = zeroes(2 * old_name.size());
+    if (trim(form.txtSqHEX.text()).size() < trim(old_name).size()) fill = zero_bytes(2 * old_name.size());
     return fill;
 }
 
@@ -38,7 +34,7 @@ void write_split_full_width_name(Image& image, std::string_view fill, std::strin
 void write_full_width_name(frmKalco& form, int team) {
     std::string fill;
     if (team == last_club) {
-        fill = zeroes(last_club_cleared_bytes);
+        fill = zero_bytes(last_club_cleared_bytes);
         form.image.write(Off_Name_HEX(team)->position, fill);
     }
     fill = full_width_fill(form, fill);
@@ -56,7 +52,7 @@ void write_full_width_name(frmKalco& form, int team) {
 
 void write_table_name(Image& image, const NameEntry& entry, std::string_view name) {
     const auto length = static_cast<std::size_t>(entry.length);
-    image.write(entry.position, zeroes(length));
+    image.write(entry.position, zero_bytes(length));
     image.write(entry.position, left(name, length));
 }
 

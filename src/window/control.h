@@ -28,6 +28,11 @@ enum class Kind {
 
 using Event = std::function<void()>;
 
+/// An event without a handler has nothing to do.
+inline void raise(const Event& event) {
+    if (event) event();
+}
+
 /// All controls of a window, in the order of their declaration, and each by its name.
 class Registry {
 public:
@@ -96,12 +101,7 @@ public:
     Event changed;
 
 protected:
-    void notify() const {
-        if (changed) changed();
-    }
-    static void raise(const Event& event) {
-        if (event) event();
-    }
+    void notify() const { raise(changed); }
 
 private:
     std::string name_;

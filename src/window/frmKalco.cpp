@@ -38,7 +38,7 @@ bool frmKalco::set_focus(Control& target) {
         arriving_ = outer;
     }
     if (focused_ != &target) return false;
-    if (target.got_focus) target.got_focus();
+    raise(target.got_focus);
     return focused_ == &target;
 }
 

@@ -12,10 +12,6 @@ constexpr auto image_filter = "Image CDRWIN (*.bin)|*.bin| Image CloneCD (*.img)
 constexpr int name_limit = 10;
 constexpr int cost_limit = 3;
 
-void run(const Event& slot) {
-    if (slot) slot();
-}
-
 void prepare_first_tab(frmKalco& form) {
     make_side_directory(form.platform, directory::export_teams);
     form.SSTab1.select(tab::players);
@@ -25,9 +21,9 @@ void prepare_first_tab(frmKalco& form) {
 }
 
 void read_lookup_lists(frmKalco& form) {
-    run(form.slots.NAMES_GIOC_NAZ);
-    run(form.slots.NAME_NO_CONTACT);
-    run(form.slots.CONTR_NAME_NC);
+    raise(form.slots.NAMES_GIOC_NAZ);
+    raise(form.slots.NAME_NO_CONTACT);
+    raise(form.slots.CONTR_NAME_NC);
 }
 
 /// The error route of start-up and cmdOpen.

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <memory>
 
+#include "codec/latin1.h"
 #include "runtime_error.h"
 
 namespace kalco {
@@ -18,20 +19,6 @@ using File = std::unique_ptr<std::FILE, CloseFile>;
 
 std::filesystem::path path_of(const std::string& utf8) {
     return {reinterpret_cast<const char8_t*>(utf8.c_str())};
-}
-
-std::string utf8_of_latin1(std::string_view text) {
-    std::string result;
-    for (const char character : text) {
-        const auto code = static_cast<unsigned char>(character);
-        if (code < 0x80) {
-            result += character;
-        } else {
-            result += static_cast<char>(0xC0 | (code >> 6));
-            result += static_cast<char>(0x80 | (code & 0x3F));
-        }
-    }
-    return result;
 }
 
 std::string contents(const std::string& path) {

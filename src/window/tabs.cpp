@@ -64,7 +64,7 @@ void enter_formations(frmKalco& form) {
         form.cmdMeno(i).set_enabled(false);
     }
     form.cmdSalva.set_enabled(false);
-    if (form.slots.Read_Bar) form.slots.Read_Bar();
+    raise(form.slots.Read_Bar);
     number_reset(form);
     no_contact_reset(form);
     link_reset(form);

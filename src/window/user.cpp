@@ -12,10 +12,6 @@ bool is_control_character(char character) {
     return code < 0x20 || (code >= 0x7F && code < 0xA0);
 }
 
-void raise(const Event& event) {
-    if (event) event();
-}
-
 bool shown(const frmKalco& form, const Control& control) {
     if (!control.on_screen() || !control.visible()) return false;
     if (control.tab() != Place::outside_tabs && control.tab() != form.SSTab1.tab()) return false;
