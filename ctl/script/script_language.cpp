@@ -110,6 +110,7 @@ void parse_operands(Action& action, Words& words) {
             action.text = latin1_of_utf8(words.json_string("text"));
             break;
         case Verb::show:
+            action.names.push_back(words.next("name"));
             while (!words.done()) action.names.push_back(words.next("name"));
             break;
     }

@@ -1,5 +1,6 @@
 #include "ctl/script/script_options.h"
 
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 
@@ -19,7 +20,8 @@ int play_script(const ScriptOptions& options, const std::function<int(std::istre
     ScriptPlatform platform(options.home.empty() ? program_directory() : options.home, std::cout);
     if (options.file.empty()) return play(std::cin, platform);
     std::ifstream file(options.file);
-    if (!file) {
+    // A directory opens like a file and reads like an empty one.
+    if (!file || std::filesystem::is_directory(options.file)) {
         std::cerr << options.file << ": the script can't be read\n";
         return exit_unrunnable;
     }
