@@ -4,7 +4,6 @@
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QTranslator>
-#include <memory>
 #include <utility>
 
 #include "app/style.h"
@@ -18,7 +17,7 @@ void prepare_application() {
     QApplication::setApplicationDisplayName(QStringLiteral("Kalco"));
     QApplication::setDesktopFileName(QStringLiteral("org.kalco.Kalco"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icon/kalco.svg")));
-    QApplication::setStyle(std::make_unique<Style>().release());  // The application owns it.
+    QApplication::setStyle(new Style);
     // The words of Qt's own menus and dialogs, where the system has them.
     auto* const words = new QTranslator(qApp);
     if (words->load(QStringLiteral("qtbase_it"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
