@@ -15,11 +15,6 @@ if(KALCO_COVERAGE)
     add_link_options(--coverage)
 endif()
 
-# gcc 12 takes a literal in front of a temporary string for an overlapping or endless copy when it optimizes.
-if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-    target_compile_options(kalco_warnings INTERFACE -Wno-restrict -Wno-stringop-overflow)
-endif()
-
 # ccache is optional. It needs telling that a precompiled header may stand for its text.
 find_program(KALCO_CCACHE ccache)
 if(KALCO_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
