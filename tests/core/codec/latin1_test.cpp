@@ -64,5 +64,12 @@ TEST(Latin1, DropsEveryBlank) {
     EXPECT_EQ(without_blanks("a\tb"), "a\tb");
 }
 
+TEST(Latin1, IsWrittenAsUtf8) {
+    EXPECT_EQ(utf8_of_latin1("ab"), "ab");
+    EXPECT_EQ(utf8_of_latin1("\x7F\x80\xBF\xC0\xFF"), "\x7F\xC2\x80\xC2\xBF\xC3\x80\xC3\xBF");
+    EXPECT_EQ(utf8_of_latin1(std::string_view("\0", 1)), std::string_view("\0", 1));
+    EXPECT_EQ(utf8_of_latin1(""), "");
+}
+
 }  // namespace
 }  // namespace kalco

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "codec/latin1.h"
+
 namespace kalco::script {
 namespace {
 
@@ -127,7 +129,6 @@ TEST(ScriptLine, ComplainsOfTextsThatAreNoJsonStrings) {
 TEST(ScriptTexts, GoBothWaysForEveryByte) {
     for (int code = 0; code <= 0xFF; ++code) {
         const std::string byte(1, static_cast<char>(code));
-        EXPECT_EQ(utf8_of_latin1(byte).size(), code < 0x80 ? 1U : 2U);
         EXPECT_EQ(latin1_of_utf8(utf8_of_latin1(byte)), byte) << code;
     }
 }
