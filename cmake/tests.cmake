@@ -101,3 +101,9 @@ foreach(source ${window_tests})
     set_tests_properties(${name} PROPERTIES LABELS window TIMEOUT 600 ENVIRONMENT "${test_env}")
     add_dependencies(window_tests ${name})
 endforeach()
+if(TARGET test_layout)
+    add_test(NAME test_layout_200_percent COMMAND test_layout no_text_is_cut lists_grow_and_fields_do_not
+        -o ${results}/test_layout_200_percent.xml,junitxml -o -,txt)
+    set_tests_properties(test_layout_200_percent PROPERTIES LABELS window TIMEOUT 600
+        ENVIRONMENT "${test_env};QT_SCALE_FACTOR=2")
+endif()
