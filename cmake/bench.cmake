@@ -8,3 +8,15 @@ if(bench_sources)
     target_link_libraries(kalco_bench PRIVATE
         $<TARGET_NAME_IF_EXISTS:kalco_ctl> kalco_core benchmark::benchmark kalco_warnings)
 endif()
+
+
+# kalco_window_bench: the actions with the real widgets; run it with QT_QPA_PLATFORM=offscreen.
+if(TARGET kalco_app)
+    find_package(Qt6 REQUIRED COMPONENTS Test)
+    file(GLOB window_bench_sources CONFIGURE_DEPENDS bench/window/*.cpp tests/app/support/*.cpp tests/app/support/*.h)
+    add_executable(kalco_window_bench ${window_bench_sources})
+    set_target_properties(kalco_window_bench PROPERTIES AUTOMOC ON)
+    target_include_directories(kalco_window_bench PRIVATE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/tests)
+    target_link_libraries(kalco_window_bench PRIVATE
+        $<TARGET_NAME_IF_EXISTS:kalco_ctl> kalco_app kalco_core Qt6::Test benchmark::benchmark kalco_warnings)
+endif()
