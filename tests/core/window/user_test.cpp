@@ -4,6 +4,7 @@
 
 #include "support/fake_platform.h"
 #include "support/memory_storage.h"
+#include "support/temporary_home.h"
 
 namespace kalco {
 namespace {
@@ -13,7 +14,10 @@ using user::Outcome;
 /// The window without any handlers.
 class UserActions : public ::testing::Test {
 protected:
-    UserActions() { form.Frame3.set_enabled(true); }
+    UserActions() {
+        platform.home = home.path();
+        form.Frame3.set_enabled(true);
+    }
 
     /// Appends a word to `log` for each event of a control.
     template <typename T>
@@ -35,6 +39,7 @@ protected:
 
     using Log = std::vector<std::string>;
     test::Disc disc;
+    test::TemporaryHome home;
     test::FakePlatform platform;
     frmKalco form{platform, test::opener_of(disc)};
     Log log;
