@@ -21,13 +21,13 @@
 #include "app/widgets/portrait_view.h"
 #include "app/widgets/record_view.h"
 #include "app/widgets/rows_view.h"
+#include "editor/window/user.h"
 #include "ui_tab0.h"
 #include "ui_tab1.h"
 #include "ui_tab2.h"
 #include "ui_tab3.h"
 #include "ui_tab4.h"
 #include "ui_tab5.h"
-#include "window/user.h"
 
 namespace kalco::app {
 namespace {

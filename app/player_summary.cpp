@@ -3,11 +3,11 @@
 #include <algorithm>
 
 #include "app/text.h"
-#include "codec/decimal.h"
-#include "league/pool_codes.h"
-#include "players/roster.h"
-#include "runtime_error.h"
-#include "teamfiles/team_file.h"
+#include "disc/codec/decimal.h"
+#include "disc/pool_codes.h"
+#include "disc/roster.h"
+#include "disc/runtime_error.h"
+#include "disc/team_file.h"
 
 namespace kalco::app {
 namespace {

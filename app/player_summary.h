@@ -4,7 +4,7 @@
 
 #include "app/widgets/record_view.h"
 #include "app/widgets/rows_view.h"
-#include "window/frmKalco.h"
+#include "editor/window/frmKalco.h"
 
 namespace kalco::app {
 

@@ -7,8 +7,8 @@
 #include <utility>
 
 #include "app/style.h"
-#include "runtime_error.h"
-#include "window/user.h"
+#include "disc/runtime_error.h"
+#include "editor/window/user.h"
 
 namespace kalco::app {
 

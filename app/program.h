@@ -5,7 +5,7 @@
 
 #include "app/kalco_window.h"
 #include "app/qt_platform.h"
-#include "editor.h"
+#include "editor/editor.h"
 
 namespace kalco::app {
 

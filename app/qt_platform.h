@@ -5,7 +5,7 @@
 #include <functional>
 #include <optional>
 
-#include "window/platform.h"
+#include "editor/window/platform.h"
 
 class QWidget;
 

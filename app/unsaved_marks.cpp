@@ -3,13 +3,13 @@
 #include <QLabel>
 #include <QWidget>
 
-#include "codec/hextext.h"
-#include "formations/bars.h"
-#include "formations/formation.h"
-#include "formations/formation_facts.h"
-#include "numbers/number_record.h"
-#include "runtime_error.h"
-#include "teams/catalogue.h"
+#include "disc/codec/hextext.h"
+#include "disc/formation.h"
+#include "disc/formation_facts.h"
+#include "disc/numbers.h"
+#include "disc/runtime_error.h"
+#include "disc/teams.h"
+#include "editor/formations/bars.h"
 
 namespace kalco::app {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "window/frmKalco.h"
+#include "editor/window/frmKalco.h"
 
 class QLabel;
 class QWidget;

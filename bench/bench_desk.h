@@ -9,10 +9,10 @@
 #include <vector>
 
 #include "ctl/demo/demo_image.h"
-#include "editor.h"
+#include "editor/editor.h"
+#include "editor/window/user.h"
 #include "support/fake_platform.h"
 #include "support/temporary_home.h"
-#include "window/user.h"
 
 namespace kalco::bench {
 

@@ -1,10 +1,10 @@
 // The editor's operations, each beside a bare loop of the same reads and writes with no other work.
 
 #include "bench/bench_desk.h"
-#include "codec/hextext.h"
-#include "players/record.h"
-#include "players/roster.h"
-#include "window/shell.h"
+#include "disc/codec/hextext.h"
+#include "disc/player_record.h"
+#include "disc/roster.h"
+#include "editor/window/shell.h"
 
 namespace {
 

@@ -6,7 +6,7 @@ if(bench_sources)
     add_executable(kalco_bench ${bench_sources})
     target_include_directories(kalco_bench PRIVATE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/tests)
     target_link_libraries(kalco_bench PRIVATE
-        $<TARGET_NAME_IF_EXISTS:kalco_ctl> kalco_core benchmark::benchmark kalco_warnings)
+        kalco_ctl kalco_script benchmark::benchmark kalco_warnings)
 endif()
 
 
@@ -18,5 +18,5 @@ if(TARGET kalco_app)
     set_target_properties(kalco_window_bench PROPERTIES AUTOMOC ON)
     target_include_directories(kalco_window_bench PRIVATE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/tests)
     target_link_libraries(kalco_window_bench PRIVATE
-        $<TARGET_NAME_IF_EXISTS:kalco_ctl> kalco_app kalco_core Qt6::Test benchmark::benchmark kalco_warnings)
+        kalco_ctl kalco_script kalco_app Qt6::Test benchmark::benchmark kalco_warnings)
 endif()

@@ -1,25 +1,25 @@
-# kalcoctl. Its parts are a library too, so that tests and window_script can share the script language.
+# kalcoctl. Its parts are libraries too, so that tests and window_script can share them: kalco_ctl works on the disc
+# without the editor, kalco_script drives the editor.
 
 find_package(CLI11 REQUIRED)
 find_package(nlohmann_json REQUIRED)
 
 file(GLOB_RECURSE ctl_sources CONFIGURE_DEPENDS ctl/*.cpp ctl/*.h)
-set(ctl_main ${PROJECT_SOURCE_DIR}/ctl/main.cpp)
-list(REMOVE_ITEM ctl_sources ${ctl_main})
-set(ctl_library_sources ${ctl_sources})
-list(FILTER ctl_library_sources INCLUDE REGEX "\\.cpp$")
+list(REMOVE_ITEM ctl_sources ${PROJECT_SOURCE_DIR}/ctl/main.cpp)
+set(script_sources ${ctl_sources})
+list(FILTER script_sources INCLUDE REGEX "/ctl/script/")
+list(FILTER ctl_sources EXCLUDE REGEX "/ctl/script/")
 
-if(ctl_library_sources)
-    add_library(kalco_ctl STATIC ${ctl_sources})
-    target_include_directories(kalco_ctl PUBLIC ${PROJECT_SOURCE_DIR})
-    target_link_libraries(kalco_ctl PUBLIC kalco_core nlohmann_json::nlohmann_json CLI11::CLI11 PRIVATE kalco_warnings)
-endif()
+add_library(kalco_ctl STATIC ${ctl_sources})
+target_link_libraries(kalco_ctl PUBLIC kalco_work kalco_editor)
+add_library(kalco_script STATIC ${script_sources})
+target_link_libraries(kalco_script PUBLIC kalco_editor)
+foreach(part kalco_ctl kalco_script)
+    target_include_directories(${part} PUBLIC ${PROJECT_SOURCE_DIR})
+    target_link_libraries(${part} PUBLIC nlohmann_json::nlohmann_json CLI11::CLI11 PRIVATE kalco_warnings)
+endforeach()
 
-if(EXISTS ${ctl_main})
-    add_executable(kalcoctl ${ctl_main})
-    target_include_directories(kalcoctl PRIVATE ${PROJECT_SOURCE_DIR})
-    target_compile_definitions(kalcoctl PRIVATE KALCO_VERSION="${PROJECT_VERSION}")
-    target_link_libraries(kalcoctl PRIVATE
-        $<TARGET_NAME_IF_EXISTS:kalco_ctl> kalco_core nlohmann_json::nlohmann_json CLI11::CLI11 kalco_warnings)
-    install(TARGETS kalcoctl RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
-endif()
+add_executable(kalcoctl ${PROJECT_SOURCE_DIR}/ctl/main.cpp)
+target_compile_definitions(kalcoctl PRIVATE KALCO_VERSION="${PROJECT_VERSION}")
+target_link_libraries(kalcoctl PRIVATE kalco_ctl kalco_script kalco_warnings)
+install(TARGETS kalcoctl RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})

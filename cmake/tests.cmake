@@ -20,7 +20,7 @@ elseif(core_test_sources)
     target_include_directories(core_tests PRIVATE tests ${PROJECT_SOURCE_DIR})
     target_compile_definitions(core_tests PRIVATE KALCO_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data")
     target_link_libraries(core_tests PRIVATE
-        $<TARGET_NAME_IF_EXISTS:kalco_ctl> kalco_core GTest::gtest GTest::gtest_main kalco_warnings)
+        kalco_ctl kalco_script GTest::gtest GTest::gtest_main kalco_warnings)
     if(KALCO_PCH)
         target_precompile_headers(core_tests PRIVATE
             <gtest/gtest.h> <array> <filesystem> <fstream> <functional> <random> <span> <string> <vector>)
@@ -71,7 +71,7 @@ function(add_window_program name)
     set_target_properties(${name} PROPERTIES AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY ${test_bin})
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
     target_link_libraries(${name} PRIVATE
-        $<TARGET_NAME_IF_EXISTS:kalco_ctl> kalco_app kalco_core Qt6::Test kalco_warnings)
+        kalco_ctl kalco_script kalco_app Qt6::Test kalco_warnings)
     if(KALCO_PCH)
         target_precompile_headers(${name} REUSE_FROM kalco_app)
     endif()

@@ -7,7 +7,7 @@
 #include "ctl/demo_command.h"
 #include "ctl/script/script_options.h"
 #include "ctl/script/script_runner.h"
-#include "editor.h"
+#include "editor/editor.h"
 
 namespace {
 

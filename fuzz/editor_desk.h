@@ -6,12 +6,12 @@
 #include <cstring>
 #include <string>
 
-#include "editor.h"
-#include "runtime_error.h"
+#include "disc/runtime_error.h"
+#include "editor/editor.h"
+#include "editor/window/user.h"
 #include "support/fake_platform.h"
 #include "support/memory_storage.h"
 #include "support/temporary_home.h"
-#include "window/user.h"
 
 namespace kalco::fuzz {
 

@@ -7,13 +7,13 @@
 #include <filesystem>
 #include <string>
 
-#include "editor.h"
-#include "formations/bars.h"
-#include "formations/formation_facts.h"
+#include "disc/formation_facts.h"
+#include "disc/teams.h"
+#include "editor/editor.h"
+#include "editor/formations/bars.h"
+#include "editor/window/user.h"
 #include "support/fake_platform.h"
 #include "support/memory_storage.h"
-#include "teams/catalogue.h"
-#include "window/user.h"
 
 namespace kalco::fuzzing {
 

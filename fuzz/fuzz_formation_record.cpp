@@ -5,8 +5,8 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "disc/formation.h"
 #include "formation_desk.h"
-#include "formations/formation.h"
 
 namespace {
 

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "editor/kickers/set_pieces.h"
 #include "fuzz/editor_desk.h"
-#include "kickers/set_pieces.h"
 
 using namespace kalco;
 

@@ -1,7 +1,7 @@
 // Any bytes as a field of full-width letters, and as a text to be coded.
 
-#include "codec/latin1.h"
-#include "codec/letters.h"
+#include "disc/codec/latin1.h"
+#include "disc/codec/letters.h"
 #include "fuzz/editor_desk.h"
 
 using namespace kalco;

@@ -1,9 +1,9 @@
 // Any twelve bytes as a record: the decoder ends, and what it shows keeps to the least values of its fields.
 
-#include "codec/decimal.h"
-#include "codec/hextext.h"
+#include "disc/codec/decimal.h"
+#include "disc/codec/hextext.h"
+#include "disc/player_record.h"
 #include "fuzz/editor_desk.h"
-#include "players/record.h"
 
 using namespace kalco;
 

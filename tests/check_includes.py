@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """check_includes.py ROOT: the include rule of the source tree.
 
-- src/: a folder includes only the folders below it in ALLOWED, the files at its root that ROOT_FILES names, and the
-  standard library. No file includes itself through others.
+- src/: a folder includes only the folders below it in ALLOWED, the files that BASE_FILES names, and the standard
+  library. No file includes itself through others.
 - ctl/ includes no window toolkit, app/ no command line library.
 
 Prints one line for each breach and ends with status 1 if there is any.
@@ -12,24 +12,24 @@ import re
 import sys
 
 # Folder of src/ -> folders that it may include besides itself.
-IMAGE_CODEC = {"image", "codec"}
-WINDOW = IMAGE_CODEC | {"window"}
-TEAMS = WINDOW | {"teams"}
-PLAYERS = TEAMS | {"players"}
+DISC = {"disc", "disc/codec", "disc/image"}
+WINDOW = DISC | {"editor/window"}
+TEAMS = WINDOW | {"editor/teams"}
+PLAYERS = TEAMS | {"editor/players"}
+HANDLERS = {"editor/teamfiles", "editor/formations", "editor/numbers", "editor/kickers", "editor/league"}
 ALLOWED = {
-    "image": set(),
-    "codec": set(),
-    "window": IMAGE_CODEC,
-    "teams": WINDOW,
-    "players": TEAMS,
-    "teamfiles": PLAYERS,
-    "formations": PLAYERS,
-    "numbers": PLAYERS,
-    "kickers": PLAYERS,
-    "league": PLAYERS,
+    "disc/image": set(),
+    "disc/codec": set(),
+    "disc": DISC,
+    "work": DISC,
+    "editor/window": DISC,
+    "editor/teams": WINDOW,
+    "editor/players": TEAMS,
+    **{folder: PLAYERS for folder in HANDLERS},
+    "editor": PLAYERS | HANDLERS,
 }
-# What every folder may include from the root of src/. Other files there stand above all folders.
-ROOT_FILES = {"runtime_error.h"}
+# What every folder may include.
+BASE_FILES = {"disc/runtime_error.h"}
 
 STANDARD = set("""
 algorithm any array atomic barrier bit bitset charconv chrono codecvt compare complex concepts condition_variable
@@ -41,7 +41,7 @@ type_traits typeindex typeinfo unordered_map unordered_set utility valarray vari
 cassert cctype cerrno cfenv cfloat cinttypes climits clocale cmath csetjmp csignal cstdarg cstddef cstdint cstdio
 cstdlib cstring ctime cuchar cwchar cwctype
 """.split())
-# The exclusive open of the image has no standard form: the system's own headers, in sources of image/ only.
+# The exclusive open of the image has no standard form: the system's own headers, in sources of disc/image/ only.
 SYSTEM = {"fcntl.h", "sys/file.h", "sys/stat.h", "sys/types.h", "unistd.h", "windows.h", "io.h", "share.h"}
 
 INCLUDE = re.compile(r'^[ \t]*#[ \t]*include[ \t]*(["<])([^">]+)[">]', re.MULTILINE)
@@ -60,7 +60,7 @@ def includes(path):
 
 
 def folder_of(name):
-    return name.split("/")[0] if "/" in name else ""
+    return os.path.dirname(name)
 
 
 def check_core(root, report):
@@ -69,13 +69,13 @@ def check_core(root, report):
     for path in sources(src):
         name = os.path.relpath(path, src).replace(os.sep, "/")
         folder = folder_of(name)
-        if folder and folder not in ALLOWED:
+        if folder not in ALLOWED:
             report(f"src/{name}: the folder {folder}/ has no line in the table of allowed folders")
             continue
         graph[name] = []
         for quoted, target in includes(path):
             if not quoted:
-                system = folder == "image" and name.endswith(".cpp") and target in SYSTEM
+                system = folder == "disc/image" and name.endswith(".cpp") and target in SYSTEM
                 if target not in STANDARD and not system:
                     report(f"src/{name}: <{target}> is no header of the standard library")
                 continue
@@ -84,12 +84,7 @@ def check_core(root, report):
                 continue
             graph[name].append(target)
             other = folder_of(target)
-            if not folder or other == folder:
-                continue
-            if not other:
-                if target not in ROOT_FILES:
-                    report(f"src/{name}: {target} stands above all folders")
-            elif other not in ALLOWED[folder]:
+            if other != folder and target not in BASE_FILES and other not in ALLOWED[folder]:
                 report(f"src/{name}: {folder}/ may not include {other}/ ({target})")
     return graph
 

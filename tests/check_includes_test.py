@@ -19,10 +19,10 @@ class IncludeRule(unittest.TestCase):
 
     def test_a_clean_tree(self):
         self.assertEqual(self.breaches({
-            "src/runtime_error.h": "#include <string>\n",
-            "src/image/image.h": '#include "runtime_error.h"\n',
-            "src/image/storage.cpp": "#include <unistd.h>\n",
-            "src/players/roster.h": '#include "image/image.h"\n#include <vector>\n',
+            "src/disc/runtime_error.h": "#include <string>\n",
+            "src/disc/image/image.h": '#include "disc/runtime_error.h"\n',
+            "src/disc/image/storage.cpp": "#include <unistd.h>\n",
+            "src/disc/roster.h": '#include "disc/image/image.h"\n#include <vector>\n',
             "ctl/main.cpp": "#include <CLI/CLI.hpp>\n",
             "app/main.cpp": "#include <QApplication>\n",
         }), [])
@@ -33,26 +33,29 @@ class IncludeRule(unittest.TestCase):
         self.assertIn(part, found[0])
 
     def test_upward(self):
-        self.assert_one({"src/image/a.h": '#include "codec/b.h"\n', "src/codec/b.h": ""}, "may not include codec/")
+        self.assert_one({"src/disc/image/a.h": '#include "disc/codec/b.h"\n', "src/disc/codec/b.h": ""},
+                        "may not include disc/codec/")
+        self.assert_one({"src/disc/a.h": '#include "editor/window/b.h"\n', "src/editor/window/b.h": ""}, "may not include")
+        self.assert_one({"src/work/a.h": '#include "editor/window/b.h"\n', "src/editor/window/b.h": ""}, "may not include")
 
     def test_sideways(self):
-        self.assert_one({"src/league/a.h": '#include "kickers/b.h"\n', "src/kickers/b.h": ""}, "may not include")
+        self.assert_one({"src/editor/league/a.h": '#include "editor/kickers/b.h"\n', "src/editor/kickers/b.h": ""}, "may not include")
 
     def test_cycle_inside_a_folder(self):
-        self.assert_one({"src/image/a.h": '#include "image/b.h"\n', "src/image/b.h": '# include "image/a.h"\n'}, "cycle")
+        self.assert_one({"src/work/a.h": '#include "work/b.h"\n', "src/work/b.h": '# include "work/a.h"\n'}, "cycle")
 
     def test_foreign_headers(self):
-        self.assert_one({"src/window/a.h": "#include <QString>\n"}, "<QString>")
-        self.assert_one({"src/window/a.cpp": "#include <unistd.h>\n"}, "<unistd.h>")
+        self.assert_one({"src/editor/window/a.h": "#include <QString>\n"}, "<QString>")
+        self.assert_one({"src/editor/window/a.cpp": "#include <unistd.h>\n"}, "<unistd.h>")
         self.assert_one({"ctl/main.cpp": "#include <QtCore/QString>\n"}, "Qt")
         self.assert_one({"app/main.cpp": "#include <CLI/CLI.hpp>\n"}, "command line")
 
     def test_unknown_folder_and_file(self):
         self.assert_one({"src/other/a.h": ""}, "no line in the table")
-        self.assert_one({"src/image/a.h": '#include "b.h"\n'}, "no file below src/")
+        self.assert_one({"src/disc/image/a.h": '#include "b.h"\n'}, "no file below src/")
 
-    def test_root_files_stand_above(self):
-        self.assert_one({"src/image/a.h": '#include "all.h"\n', "src/all.h": ""}, "stands above")
+    def test_the_whole_editor_stands_above(self):
+        self.assert_one({"src/editor/window/a.h": '#include "editor/all.h"\n', "src/editor/all.h": ""}, "may not include editor/")
 
 
 if __name__ == "__main__":

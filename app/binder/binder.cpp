@@ -10,7 +10,7 @@
 
 #include "app/binder/view.h"
 #include "app/widgets/pitch_view.h"
-#include "window/user.h"
+#include "editor/window/user.h"
 
 namespace kalco::app {
 namespace {

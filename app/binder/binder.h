@@ -7,7 +7,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "window/frmKalco.h"
+#include "editor/window/frmKalco.h"
 
 class QTabWidget;
 

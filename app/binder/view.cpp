@@ -16,7 +16,7 @@
 #include "app/widgets/pitch_view.h"
 #include "app/widgets/rows_view.h"
 #include "app/widgets/strength_bar_view.h"
-#include "window/user.h"
+#include "editor/window/user.h"
 
 namespace kalco::app {
 namespace {

@@ -6,7 +6,7 @@
 #include <QApplication>
 
 #include "app/support/test_window.h"
-#include "window/user.h"
+#include "editor/window/user.h"
 
 namespace {
 

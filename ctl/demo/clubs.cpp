@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "codec/hextext.h"
 #include "ctl/demo/line_ups.h"
-#include "league/pool_codes.h"
+#include "disc/codec/hextext.h"
+#include "disc/pool_codes.h"
 
 namespace kalco::demo {
 namespace {

@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "ctl/demo/random.h"
-#include "image/position.h"
-#include "image/sector.h"
+#include "disc/image/position.h"
+#include "disc/image/sector.h"
 
 namespace kalco::demo {
 

@@ -1,7 +1,7 @@
 #include "ctl/demo/demo_image.h"
 
 #include "ctl/demo/tables.h"
-#include "teams/catalogue.h"
+#include "disc/teams.h"
 
 namespace kalco::demo {
 namespace {

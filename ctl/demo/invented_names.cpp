@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "players/roster.h"
+#include "disc/roster.h"
 
 namespace kalco::demo {
 namespace {

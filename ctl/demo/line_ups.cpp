@@ -3,7 +3,7 @@
 #include <string_view>
 #include <utility>
 
-#include "formations/formation.h"
+#include "disc/formation.h"
 
 namespace kalco::demo {
 namespace {

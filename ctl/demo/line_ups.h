@@ -3,7 +3,7 @@
 #include <array>
 
 #include "ctl/demo/players.h"
-#include "formations/formation_facts.h"
+#include "disc/formation_facts.h"
 
 namespace kalco::demo {
 

@@ -5,8 +5,8 @@
 
 #include "ctl/demo/invented_names.h"
 #include "ctl/demo/random.h"
-#include "players/record.h"
-#include "players/roster.h"
+#include "disc/player_record.h"
+#include "disc/roster.h"
 
 namespace kalco::demo {
 

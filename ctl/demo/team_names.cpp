@@ -2,10 +2,10 @@
 #include <array>
 #include <string>
 
-#include "codec/latin1.h"
-#include "codec/letters.h"
 #include "ctl/demo/tables.h"
-#include "teams/catalogue.h"
+#include "disc/codec/latin1.h"
+#include "disc/codec/letters.h"
+#include "disc/teams.h"
 
 namespace kalco::demo {
 namespace {

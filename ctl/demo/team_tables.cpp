@@ -1,12 +1,12 @@
 #include <algorithm>
 
-#include "codec/hextext.h"
 #include "ctl/demo/tables.h"
-#include "formations/bars.h"
-#include "formations/formation_facts.h"
-#include "kickers/set_pieces.h"
-#include "league/links.h"
-#include "numbers/number_record.h"
+#include "disc/codec/hextext.h"
+#include "disc/formation_facts.h"
+#include "disc/numbers.h"
+#include "editor/formations/bars.h"
+#include "editor/kickers/set_pieces.h"
+#include "editor/league/links.h"
 
 namespace kalco::demo {
 namespace {

@@ -4,8 +4,8 @@
 
 #include "ctl/demo/clubs.h"
 #include "ctl/demo/line_ups.h"
-#include "formations/formation.h"
-#include "league/pool_codes.h"
+#include "disc/formation.h"
+#include "disc/pool_codes.h"
 
 namespace kalco::demo {
 namespace {

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "ctl/demo/players.h"
-#include "formations/formation_facts.h"
+#include "disc/formation_facts.h"
 
 namespace kalco::demo {
 

@@ -1,6 +1,6 @@
 #include "ctl/script/json_lines.h"
 
-#include "codec/latin1.h"
+#include "disc/codec/latin1.h"
 
 namespace kalco::script {
 namespace {

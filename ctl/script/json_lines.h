@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "window/frmKalco.h"
+#include "editor/window/frmKalco.h"
 
 /// What the runner prints: one JSON object a line, keys in a fixed order, other characters than ASCII escaped.
 namespace kalco::script {

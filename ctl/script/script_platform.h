@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "window/platform.h"
+#include "editor/window/platform.h"
 
 namespace kalco::script {
 

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "ctl/script/script_language.h"
-#include "runtime_error.h"
+#include "disc/runtime_error.h"
 
 namespace kalco::script {
 namespace {

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "ctl/script/json_lines.h"
-#include "window/user.h"
+#include "editor/window/user.h"
 
 namespace kalco::script {
 

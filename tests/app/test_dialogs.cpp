@@ -9,7 +9,7 @@
 
 #include "app/qt_platform.h"
 #include "app/support/test_window.h"
-#include "window/user.h"
+#include "editor/window/user.h"
 
 using namespace kalco;
 

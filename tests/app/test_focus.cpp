@@ -6,7 +6,7 @@
 
 #include "app/support/test_window.h"
 #include "app/widgets/pick_combo.h"
-#include "window/user.h"
+#include "editor/window/user.h"
 
 using namespace kalco;
 

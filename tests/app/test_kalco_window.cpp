@@ -9,8 +9,8 @@
 
 #include "app/support/test_window.h"
 #include "app/widgets/pick_combo.h"
-#include "runtime_error.h"
-#include "window/user.h"
+#include "disc/runtime_error.h"
+#include "editor/window/user.h"
 
 using namespace kalco;
 

@@ -5,7 +5,7 @@
 #include <QtTest>
 
 #include "app/support/test_window.h"
-#include "window/user.h"
+#include "editor/window/user.h"
 
 using namespace kalco;
 

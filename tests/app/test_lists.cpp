@@ -4,7 +4,7 @@
 
 #include "app/support/test_window.h"
 #include "app/widgets/rows_view.h"
-#include "window/user.h"
+#include "editor/window/user.h"
 
 using namespace kalco;
 

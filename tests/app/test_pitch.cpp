@@ -5,7 +5,7 @@
 #include "app/support/test_window.h"
 #include "app/widgets/number_board.h"
 #include "app/widgets/pitch_view.h"
-#include "window/user.h"
+#include "editor/window/user.h"
 
 using namespace kalco;
 

@@ -6,8 +6,8 @@
 
 #include "app/program.h"
 #include "app/support/test_window.h"
-#include "runtime_error.h"
-#include "window/user.h"
+#include "disc/runtime_error.h"
+#include "editor/window/user.h"
 
 using namespace kalco;
 

@@ -6,7 +6,7 @@
 #include "app/binder/view.h"
 #include "app/support/test_window.h"
 #include "app/text.h"
-#include "window/user.h"
+#include "editor/window/user.h"
 
 using namespace kalco;
 

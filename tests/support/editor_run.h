@@ -7,12 +7,12 @@
 #include <string>
 #include <vector>
 
-#include "editor.h"
+#include "editor/editor.h"
+#include "editor/window/user.h"
 #include "support/fake_platform.h"
 #include "support/filled_disc.h"
 #include "support/memory_storage.h"
 #include "support/temporary_home.h"
-#include "window/user.h"
 
 namespace kalco::test {
 

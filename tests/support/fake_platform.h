@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "window/platform.h"
+#include "editor/window/platform.h"
 
 namespace kalco::test {
 

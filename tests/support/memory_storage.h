@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "image/storage.h"
-#include "runtime_error.h"
+#include "disc/image/storage.h"
+#include "disc/runtime_error.h"
 
 namespace kalco::test {
 

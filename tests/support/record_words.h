@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-#include "players/record.h"
+#include "disc/player_record.h"
 
 /// Words of player records by their bits.
 namespace kalco::test {

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "ctl/script/json_lines.h"
-#include "window/frmKalco.h"
+#include "editor/window/frmKalco.h"
 
 namespace kalco::test {
 

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "app/kalco_window.h"
-#include "editor.h"
+#include "editor/editor.h"
 #include "support/fake_platform.h"
 
 namespace kalco::test {

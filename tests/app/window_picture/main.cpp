@@ -5,7 +5,7 @@
 #include <iostream>
 
 #include "app/support/test_window.h"
-#include "window/user.h"
+#include "editor/window/user.h"
 
 namespace {
 

@@ -11,7 +11,7 @@
 #include "app/widgets/pitch_view.h"
 #include "app/widgets/rows_view.h"
 #include "app/widgets/strength_bar_view.h"
-#include "window/controls.h"
+#include "editor/window/controls.h"
 
 namespace kalco::test {
 namespace {

@@ -5,20 +5,20 @@
 #include <algorithm>
 #include <set>
 
-#include "codec/hextext.h"
-#include "codec/latin1.h"
-#include "codec/letters.h"
 #include "ctl/demo/demo_image.h"
-#include "formations/bars.h"
-#include "formations/formation.h"
-#include "kickers/set_pieces.h"
-#include "league/links.h"
-#include "league/pool_codes.h"
-#include "numbers/number_record.h"
-#include "players/record.h"
-#include "players/roster.h"
+#include "disc/codec/hextext.h"
+#include "disc/codec/latin1.h"
+#include "disc/codec/letters.h"
+#include "disc/formation.h"
+#include "disc/numbers.h"
+#include "disc/player_record.h"
+#include "disc/pool_codes.h"
+#include "disc/roster.h"
+#include "disc/teams.h"
+#include "editor/formations/bars.h"
+#include "editor/kickers/set_pieces.h"
+#include "editor/league/links.h"
 #include "support/memory_storage.h"
-#include "teams/catalogue.h"
 
 namespace kalco {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "codec/latin1.h"
+#include "disc/codec/latin1.h"
 
 namespace kalco::script {
 namespace {

@@ -5,7 +5,7 @@
 #include <sstream>
 
 #include "ctl/script/script_language.h"
-#include "editor.h"
+#include "editor/editor.h"
 #include "support/filled_disc.h"
 #include "support/shelf.h"
 #include "support/temporary_home.h"

@@ -1,0 +1,92 @@
+#include "disc/numbers.h"
+
+#include <array>
+#include <cstdint>
+
+#include "disc/codec/decimal.h"
+#include "disc/codec/hextext.h"
+#include "disc/roster.h"
+#include "disc/runtime_error.h"
+#include "disc/teams.h"
+
+namespace kalco {
+namespace {
+
+constexpr std::size_t fields_in_word = 6;
+constexpr std::size_t words_in_record = 4;
+constexpr int field_bits = 5;
+constexpr std::size_t word_digits_count = 8;
+
+std::string little_endian(std::uint32_t word) {
+    std::string bytes;
+    for (int shift = 0; shift < 32; shift += 8) bytes += static_cast<char>((word >> shift) & 0xFF);
+    return bytes;
+}
+
+}  // namespace
+
+Pieces number_field(int row) {
+    if (row == default_row) return Piece{default_team_numbers, club_number_bytes};
+    if (row < first_club_row) return field_at(NationalNumberBase + national_number_bytes * row, national_number_bytes);
+    return field_at(ClubNumberBase + club_number_bytes * (row - first_club_row), club_number_bytes);
+}
+
+std::string pack_national_numbers(const std::vector<std::string>& entries) {
+    std::array<std::uint32_t, words_in_record> words{};
+    for (std::size_t player = 0; player < entries.size() && player < roster_players; ++player) {
+        const std::int64_t number = number_of(entries[player]);
+        if (number < 1 || number > most_national_number) throw RuntimeError(error::resource_not_found);
+        const int shift = field_bits * static_cast<int>(player % fields_in_word);
+        words[player / fields_in_word] |= static_cast<std::uint32_t>(number - 1) << shift;
+    }
+    std::string bytes;
+    for (const std::uint32_t word : words) bytes += little_endian(word);
+    return hex_digits(bytes);
+}
+
+std::string pack_club_numbers(const std::vector<std::string>& entries) {
+    std::string digits;
+    for (const std::string& entry : entries) digits += hex_number(number_of(entry) - 1, 2);
+    return digits;
+}
+
+std::string number_entry(int number) {
+    const std::string text = std::to_string(number);
+    return text.size() < 2 ? '0' + text : text;
+}
+
+void NUM_SHIRT_DEC_12(std::string_view word, std::size_t first, bool sixth_field, std::vector<std::string>& entries) {
+    constexpr int top_bit = 0x80;
+    const int b0 = hex_pair(word.substr(0, 2));
+    const int b1 = hex_pair(word.substr(2, 2));
+    const int b2 = hex_pair(word.substr(4, 2));
+    const int b3 = hex_pair(word.substr(6, 2));
+    entries[first] = number_entry((b0 & 0x1F) + 1);
+    entries[first + 1] = number_entry((b0 >> 5) + 8 * (b1 & 3) + 1);
+    // A byte of exactly 0x80 is not recognised as having the bit, and its rest is then found in no table.
+    entries[first + 2] = number_entry(b1 == top_bit ? most_national_number : ((b1 & 0x7C) >> 2) + 1);
+    entries[first + 3] = number_entry((b1 > top_bit ? 1 : 0) + 2 * (b2 & 0x0F) + 1);
+    entries[first + 4] = number_entry((b2 >> 4) + 16 * (b3 & 1) + 1);
+    if (!sixth_field) return;
+    const bool spare_bit = (b3 & 0xFE) > 0x3E;
+    entries[first + 5] = number_entry(spare_bit ? most_national_number : ((b3 & 0x3E) >> 1) + 1);
+}
+
+std::vector<std::string> decode_national_numbers(std::string_view record) {
+    const std::string digits = hex_digits(record);
+    std::vector<std::string> entries(roster_players);
+    for (std::size_t word = 0; word < words_in_record; ++word) {
+        const bool last = word + 1 == words_in_record;
+        NUM_SHIRT_DEC_12(std::string_view(digits).substr(word * word_digits_count, word_digits_count),
+                         word * fields_in_word, !last, entries);
+    }
+    return entries;
+}
+
+std::vector<std::string> decode_club_numbers(std::string_view record) {
+    std::vector<std::string> entries;
+    for (const char byte : record) entries.push_back(number_entry(static_cast<unsigned char>(byte) + 1));
+    return entries;
+}
+
+}  // namespace kalco

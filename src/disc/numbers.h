@@ -1,0 +1,46 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "disc/image/position.h"
+
+/// Shirt numbers on the disc: 1..32 packed into four 32-bit words for a nation, one byte each for a club and for the
+/// default team. Both store the number minus 1.
+namespace kalco {
+
+inline constexpr int national_number_bytes = 16;
+inline constexpr int club_number_bytes = 23;
+inline constexpr int most_national_number = 32;
+inline constexpr int board_cells = 99;
+
+/// The first records; the others follow in the order of the list of 87 teams.
+inline constexpr UserOffset NationalNumberBase = user_offset_of(404717);
+inline constexpr UserOffset ClubNumberBase = user_offset_of(2014529);
+/// The default team's record stands before the clubs', with a byte between them that belongs to no record.
+inline constexpr ImagePos default_team_numbers = 2014505;
+
+/// The record of a row 0..86.
+Pieces number_field(int row);
+
+/// The 32 digits of a national record for the numbers of 23 players in roster order. Error 326 at the first number
+/// outside 1..32, 13 for an entry that is no number.
+std::string pack_national_numbers(const std::vector<std::string>& entries);
+/// The digits of a club's record, two an entry; more for a number above 256 or below 1. Error 13 as above.
+std::string pack_club_numbers(const std::vector<std::string>& entries);
+
+/// The 23 entries (two decimal digits each) of a national record of 16 bytes. Two bytes are misread on purpose: see
+/// NUM_SHIRT_DEC_12.
+std::vector<std::string> decode_national_numbers(std::string_view record);
+/// The entries of a club's record, one a byte.
+std::vector<std::string> decode_club_numbers(std::string_view record);
+
+/// Decodes the word of 8 digits in image order into the entries from `first` on. The top bit of its second byte counts
+/// only when the byte is above 128, and a set spare bit makes the sixth number 32.
+void NUM_SHIRT_DEC_12(std::string_view word, std::size_t first, bool sixth_field, std::vector<std::string>& entries);
+
+/// A number as an entry of the lists.
+std::string number_entry(int number);
+
+}  // namespace kalco

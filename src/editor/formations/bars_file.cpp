@@ -1,0 +1,72 @@
+#include "editor/formations/bars_file.h"
+
+#include "disc/codec/decimal.h"
+#include "disc/codec/hextext.h"
+#include "disc/codec/latin1.h"
+#include "disc/formation_facts.h"
+#include "disc/teams.h"
+#include "editor/formations/bars.h"
+#include "editor/formations/pitch.h"
+#include "editor/window/side_file.h"
+
+namespace kalco {
+namespace {
+
+constexpr auto filter = "*.bfr|*.bfr";
+constexpr std::string_view extension = ".bfr";
+constexpr auto question =
+    "S\xEC = Importa barre & formazione\r\nNo = Importa solo Barre\r\nAnnulla = Importa solo formazione";
+
+std::string bar_digits(const frmKalco& form) {
+    std::string digits;
+    for (int i = 1; i <= bar_count; ++i) {
+        const std::string& caption = form.pbFZ(i).caption();
+        digits += hex_number(caption.empty() ? 0 : number_of(caption), 2);
+    }
+    return digits;
+}
+
+void import_bars(frmKalco& form, int row, std::string_view line) {
+    write_bars(form.image, row, left(line, 2 * bar_count));
+    form.listApp2.clear();
+    Read_Bar(form);
+}
+
+bool has_team(const frmKalco& form) {
+    const int row = form.cboSeqSQ2.row();
+    return row >= 0 && row != default_row;
+}
+
+}  // namespace
+
+void cmdExport_Click(frmKalco& form) {
+    if (!has_team(form)) return;
+    make_side_directory(form.platform, directory::formations);
+    const std::string path =
+        side_file_path(form.platform, directory::formations, upper(form.txtSqHEX2.text()) + std::string(extension));
+    write_lines(path, {});
+    write_lines(path, {bar_digits(form) + formation_digits(form)});
+    form.inform("File creato con successo");
+}
+
+void cmdImport_Click(frmKalco& form) {
+    if (!has_team(form)) return;
+    const int row = form.cboSeqSQ2.row();
+    const std::string path = form.platform.open_dialog(filter, form.platform.program_directory());
+    if (path.empty()) return;
+    const std::string line = read_first_line(path);
+    const Answer answer = form.platform.message(question, Icon::warning, Buttons::yes_no_cancel);
+    // Cancel is not a way out: it takes the formation alone.
+    if (answer != Answer::cancel) import_bars(form, row, line);
+    if (answer != Answer::no) write_formation(form.image, row, right(line, 2 * formation_bytes));
+    form.inform("Salvataggio effettuato con successo");
+    form.reopen_image();
+    cboSeqSQ2_Click(form);
+}
+
+void connect_bars_file(frmKalco& form) {
+    form.cmdExport.click = [&form] { cmdExport_Click(form); };
+    form.cmdImport.click = [&form] { cmdImport_Click(form); };
+}
+
+}  // namespace kalco

@@ -1,0 +1,221 @@
+#include "editor/formations/pitch.h"
+
+#include "disc/codec/hextext.h"
+#include "disc/codec/latin1.h"
+#include "disc/formation.h"
+#include "disc/roster.h"
+#include "disc/runtime_error.h"
+#include "disc/teams.h"
+#include "editor/formations/bars.h"
+
+namespace kalco {
+namespace {
+
+constexpr int step_left = 102;
+constexpr int step_top = 31;
+constexpr int least_left = 102;
+constexpr int most_left = 4819;
+constexpr int least_top = 31;
+constexpr int most_top = 3379;
+
+void reset_markers(frmKalco& form) {
+    for (int k = first_marker; k <= last_marker; ++k) form.lblGioc(k).set_selected(false);
+}
+
+/// No marker is selected any more, and what acts on one is off.
+void drop_selection(frmKalco& form) {
+    reset_markers(form);
+    form.cboRL.set_text({});
+    form.fraCord.set_enabled(false);
+    form.cboRL.set_enabled(false);
+}
+
+std::size_t index_of(int marker) {
+    return static_cast<std::size_t>(marker);
+}
+
+void place_marker(frmKalco& form, int marker, int x, int y) {
+    form.FormationX[index_of(marker)] = x;
+    form.FormationY[index_of(marker)] = y;
+    form.lblGioc(marker).move(screen_left(x), screen_top(y));
+}
+
+/// Two columns of 20 digits; missing ones count as 0.
+void place_markers(frmKalco& form, std::string_view x_digits, std::string_view y_digits) {
+    for (int k = first_marker; k <= last_marker; ++k) {
+        const std::size_t place = 2 * index_of(k - first_marker) + 1;
+        place_marker(form, k, hex_pair(mid(x_digits, place, 2)), hex_pair(mid(y_digits, place, 2)));
+    }
+}
+
+/// One press of an arrow: the limit looks at the screen place, not at the value.
+void move_selected(frmKalco& form, bool allowed, int x, int y) {
+    if (!allowed) return;
+    PitchMarker& marker = form.lblGioc(form.SelectedMarker);
+    form.FormationX[index_of(form.SelectedMarker)] += x;
+    form.FormationY[index_of(form.SelectedMarker)] += y;
+    marker.move(marker.left() + x * step_left, marker.top() + y * step_top);
+}
+
+std::string default_team_player(const frmKalco& form) {
+    return read_player_name(form.image, pool_name_field(DefaultSlots.at(index_of(form.SelectedMarker - 1))));
+}
+
+std::string national_player(const frmKalco& form, int team) {
+    const Pieces field = roster_name_field(team, form.SelectedMarker - 1);
+    const std::string name = read_player_name(form.image, field);
+    // Only the name that is read in two pieces is shown with a blank in front.
+    return field.split() ? ' ' + name : name;
+}
+
+}  // namespace
+
+void ProvaRead(frmKalco& form) {
+    const std::string digits = hex_digits(form.image.read(formation_field(form.cboSeqSQ2.row())));
+    constexpr std::size_t column = 2 * outfield_players;
+    Elab_MOD(form, digits.substr(0, column));
+    place_markers(form, std::string_view(digits).substr(column, column), std::string_view(digits).substr(2 * column));
+}
+
+ModuleTexts Conf_MOD(const frmKalco& form) {
+    const ModuleRow* const row = module_named(form.cboMod.text());
+    if (row == nullptr) return {};
+    return {std::string(row->roles), std::string(row->x), std::string(row->y)};
+}
+
+void Elab_MOD(frmKalco& form, std::string_view digits) {
+    for (int k = first_marker; k <= last_marker; ++k) {
+        form.lblGioc(k).set_caption(role_label(left(digits, 2)));
+        digits = mid(digits, 3);
+    }
+}
+
+std::string Invert_Mod(frmKalco& form) {
+    return role_code(form.lblGioc(form.SelectedMarker).caption());
+}
+
+void Select_NAME(frmKalco& form) {
+    const int row = form.cboSeqSQ2.row();
+    if (is_nation(row)) {
+        form.lblNameG.set_caption(national_player(form, row));
+    } else if (is_club_row(row)) {
+        raise(form.slots.NEW_NAME_ML);
+    } else if (row == default_row) {
+        form.lblNameG.set_caption(default_team_player(form));
+    }
+}
+
+std::string formation_digits(frmKalco& form) {
+    std::string roles;
+    std::string x;
+    std::string y;
+    for (int k = first_marker; k <= last_marker; ++k) {
+        form.SelectedMarker = k;
+        roles += Invert_Mod(form);
+        x += hex_number(form.FormationX[index_of(k)], 2);
+        y += hex_number(form.FormationY[index_of(k)], 2);
+    }
+    return roles + x + y;
+}
+
+void write_formation(Image& image, int row, std::string_view digits) {
+    const Pieces field = formation_field(row);
+    const std::string bytes = bytes_of_digits(digits);
+    if (!field.split()) return image.write(field.position(), bytes);
+    // A short text gives bytes of its middle to both pieces.
+    image.write(field[0].position, left(bytes, static_cast<std::size_t>(field[0].bytes)));
+    image.write(field[1].position, right(bytes, static_cast<std::size_t>(field[1].bytes)));
+}
+
+void cboSeqSQ2_Click(frmKalco& form) {
+    const int row = form.cboSeqSQ2.row();
+    if (row < 0) return;
+    form.SelectedMarker = row;
+    form.txtSqHEX2.set_text(read_full_width_name_of_row(form.image, row));
+    show_bars(form);
+    drop_selection(form);
+    form.Frame6.set_enabled(true);
+    form.fraImpExp.set_enabled(row != default_row);
+    form.cboMod.set_text({});
+    form.lblNameG.set_caption({});
+    ProvaRead(form);
+}
+
+void lblGioc_MouseDown(frmKalco& form, int marker) {
+    reset_markers(form);
+    form.lblGioc(marker).set_selected(true);
+}
+
+void lblGioc_Click(frmKalco& form, int marker) {
+    form.SelectedMarker = marker;
+    form.cboRL.set_text(form.lblGioc(marker).caption());
+    form.fraCord.set_enabled(true);
+    form.cboRL.set_enabled(true);
+    Select_NAME(form);
+}
+
+void cboRL_Click(frmKalco& form) {
+    form.lblGioc(form.SelectedMarker).set_caption(form.cboRL.text());
+}
+
+void cboMod_Click(frmKalco& form) {
+    reset_markers(form);
+    form.lblNameG.set_caption({});
+    form.cboRL.set_text({});
+    form.fraCord.set_enabled(false);
+    form.cboRL.set_enabled(false);
+    const ModuleTexts texts = Conf_MOD(form);
+    Elab_MOD(form, texts.roles);
+    place_markers(form, texts.x, texts.y);
+}
+
+void cmdLeft_Click(frmKalco& form) {
+    move_selected(form, form.lblGioc(form.SelectedMarker).left() > least_left, -1, 0);
+}
+
+void cmdRight_Click(frmKalco& form) {
+    move_selected(form, form.lblGioc(form.SelectedMarker).left() < most_left, 1, 0);
+}
+
+void cmdUp_Click(frmKalco& form) {
+    move_selected(form, form.lblGioc(form.SelectedMarker).top() > least_top, 0, -1);
+}
+
+void cmdDown_Click(frmKalco& form) {
+    move_selected(form, form.lblGioc(form.SelectedMarker).top() < most_top, 0, 1);
+}
+
+void cmdModifica_Click(frmKalco& form) {
+    const int row = form.cboSeqSQ2.row();
+    if (row < 0) return;
+    drop_selection(form);
+    form.cboMod.set_text({});
+    form.lblNameG.set_caption({});
+    write_formation(form.image, row, formation_digits(form));
+    form.inform("Salvataggio effettuato con successo");
+    form.reopen_image();
+}
+
+void connect_pitch(frmKalco& form) {
+    form.cboSeqSQ2.set_items(short_team_rows());
+    form.cboRL.set_items({role_labels.begin(), role_labels.end()});
+    std::vector<std::string> modules;
+    modules.reserve(module_rows.size());
+    for (const ModuleRow& row : module_rows) modules.emplace_back(row.name);
+    form.cboMod.set_items(std::move(modules));
+
+    form.cboSeqSQ2.click = [&form] { cboSeqSQ2_Click(form); };
+    for (int k = first_marker; k <= last_marker; ++k) {
+        form.lblGioc(k).press = [&form, k] { lblGioc_MouseDown(form, k); };
+        form.lblGioc(k).click = [&form, k] { lblGioc_Click(form, k); };
+    }
+    form.cboRL.click = [&form] { cboRL_Click(form); };
+    form.cboMod.click = [&form] { cboMod_Click(form); };
+    form.cmdLeft.click = [&form] { cmdLeft_Click(form); };
+    form.cmdRight.click = [&form] { cmdRight_Click(form); };
+    form.cmdUp.click = [&form] { cmdUp_Click(form); };
+    form.cmdDown.click = [&form] { cmdDown_Click(form); };
+    form.cmdModifica.click = [&form] { cmdModifica_Click(form); };
+}
+
+}  // namespace kalco

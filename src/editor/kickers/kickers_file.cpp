@@ -1,0 +1,58 @@
+#include "editor/kickers/kickers_file.h"
+
+#include "disc/codec/hextext.h"
+#include "disc/codec/latin1.h"
+#include "disc/runtime_error.h"
+#include "editor/kickers/set_pieces.h"
+#include "editor/window/side_file.h"
+
+namespace kalco {
+namespace {
+
+constexpr auto filter = "*.kcp|*.kcp";
+constexpr std::string_view extension = ".kcp";
+
+/// False when the file could not be handled; the failure has been told.
+template <typename Steps>
+bool with_file_route(frmKalco& form, Steps steps) {
+    try {
+        steps();
+        return true;
+    } catch (const RuntimeError& failure) {
+        form.platform.message(std::string(failure.text()), Icon::stop, Buttons::ok);
+        return false;
+    }
+}
+
+}  // namespace
+
+void cmdExpKick_Click(frmKalco& form) {
+    if (form.cboSquadra.row() < 0) return;
+    const bool written = with_file_route(form, [&form] {
+        make_side_directory(form.platform, directory::kickers);
+        const std::string name = std::string(trim(form.txtAtt.text())).append(extension);
+        write_lines(side_file_path(form.platform, directory::kickers, name), {form.txtHex.text()});
+    });
+    if (written) form.inform("File creato con successo");
+}
+
+void cmdImpKick_Click(frmKalco& form) {
+    const int row = form.cboSquadra.row();
+    if (row < 0) return;
+    const std::string path = form.platform.open_dialog(filter, form.platform.program_directory());
+    if (path.empty()) return;
+    std::string line;
+    if (!with_file_route(form, [&] { line = read_first_line(path); })) return;
+    // A longer line overwrites the records behind this one.
+    form.image.write(set_piece_field(row), bytes_of_digits(line));
+    form.inform("Salvataggio effettuato con successo");
+    form.reopen_image();
+    cboSquadra_Click(form);
+}
+
+void connect_kickers_file(frmKalco& form) {
+    form.cmdExpKick.click = [&form] { cmdExpKick_Click(form); };
+    form.cmdImpKick.click = [&form] { cmdImpKick_Click(form); };
+}
+
+}  // namespace kalco

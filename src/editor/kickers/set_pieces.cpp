@@ -1,0 +1,92 @@
+#include "editor/kickers/set_pieces.h"
+
+#include "disc/codec/hextext.h"
+#include "disc/roster.h"
+#include "disc/teams.h"
+
+namespace kalco {
+namespace {
+
+using OptionColumn = ControlArray<OptionButton>;
+
+/// In the order of the record's bytes.
+std::array<OptionColumn*, set_piece_columns> option_columns(frmKalco& form) {
+    return {&form.opCPC, &form.opCPL, &form.opCAD, &form.opCAS, &form.opRIG, &form.opCAP};
+}
+
+void show_names(frmKalco& form, int row) {
+    if (is_club_row(row)) {
+        raise(form.slots.NEW_NAME_ML);
+        return;
+    }
+    for (int player = 0; player < set_piece_rows; ++player) {
+        const Pieces field = row == default_row ? pool_name_field(DefaultSlots[static_cast<std::size_t>(player)])
+                                                : roster_name_field(row, player);
+        form.txtNM(player + 1).set_text(' ' + read_player_name(form.image, field));
+    }
+}
+
+void show_pick(frmKalco& form, std::size_t column, std::string_view digits) {
+    OptionColumn& options = *option_columns(form)[column];
+    const int row = hex_pair(digits);
+    if (options.has(row)) {
+        options(row).set_value(true);
+        return;
+    }
+    for (int i = options.first(); i <= options.last(); ++i) options(i).set_value(false);
+    form.set_piece_picks[column] = std::string(digits);
+}
+
+}  // namespace
+
+Pieces set_piece_field(int row) {
+    if (row == default_row) return Piece{default_team_set_pieces, set_piece_bytes};
+    return field_at(SetPieceBase + set_piece_bytes * team_of_row(row), set_piece_bytes);
+}
+
+std::string pick_digits(int row) {
+    return row == set_piece_rows - 1 ? "0A" : '0' + std::to_string(row);
+}
+
+void CAP_KICK(frmKalco& form) {
+    const std::string digits = form.txtHex.text();
+    for (std::size_t column = 0; column < set_piece_columns; ++column) {
+        show_pick(form, column, std::string_view(digits).substr(2 * column, 2));
+    }
+}
+
+void cboSquadra_Click(frmKalco& form) {
+    const int row = form.cboSquadra.row();
+    if (row < 0) return;
+    form.listAtt.select(row);
+    form.txtAtt.set_text(' ' + form.listAtt.text());
+    show_names(form, row);
+    form.txtHex.set_text(hex_digits(form.image.read(set_piece_field(row))));
+    CAP_KICK(form);
+    form.fraKick.set_enabled(true);
+}
+
+void cmdCrea_Click(frmKalco& form) {
+    const int row = form.cboSquadra.row();
+    if (row < 0) return;
+    std::string digits;
+    for (const std::string& pick : form.set_piece_picks) digits += pick;
+    form.txtHex.set_text(digits);
+    form.image.write(set_piece_field(row), bytes_of_digits(digits));
+    form.inform("Salvataggio effettuato con successo");
+    form.reopen_image();
+}
+
+void connect_set_pieces(frmKalco& form) {
+    form.cboSquadra.set_items(short_team_rows());
+    form.cboSquadra.click = [&form] { cboSquadra_Click(form); };
+    const auto columns = option_columns(form);
+    for (std::size_t column = 0; column < columns.size(); ++column) {
+        for (int row = 0; row < set_piece_rows; ++row) {
+            (*columns[column])(row).click = [&form, column, row] { form.set_piece_picks[column] = pick_digits(row); };
+        }
+    }
+    form.cmdCrea.click = [&form] { cmdCrea_Click(form); };
+}
+
+}  // namespace kalco

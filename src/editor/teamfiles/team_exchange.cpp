@@ -1,0 +1,97 @@
+#include "editor/teamfiles/team_exchange.h"
+
+#include "disc/codec/latin1.h"
+#include "disc/player_record.h"
+#include "disc/roster.h"
+#include "disc/runtime_error.h"
+#include "disc/team_file.h"
+#include "editor/window/side_file.h"
+
+namespace kalco {
+namespace {
+
+std::string exported_line(frmKalco& form, int player) {
+    if (player >= form.listApp.count()) throw RuntimeError(error::invalid_call);
+    const auto groups = groups_of_entry(form.listApp.item(player));
+    form.Text4.set_text(groups[0]);
+    form.Text5.set_text(groups[1]);
+    form.Text6.set_text(groups[2]);
+    const Words words{word_of_group(groups[0]), word_of_group(groups[1]), word_of_group(groups[2])};
+    return player_line(player + 1, words, form.listDat.item(player));
+}
+
+void read_file(frmKalco& form, const std::string& path) {
+    for (const std::string& line : read_lines(path)) form.listAppIMP.add(line);
+}
+
+void show_names(frmKalco& form) {
+    form.txtSQ.set_text(mid(form.listAppIMP.item(static_cast<int>(long_name_line)), long_name_place));
+    form.txtSqShort.set_text(mid(form.listAppIMP.item(static_cast<int>(short_name_line)), short_name_place));
+    form.txtSqHEX.set_text(form.txtSQ.text());
+    form.txtSqDec.set_text(form.txtSQ.text());
+}
+
+void import_player(frmKalco& form, int index) {
+    const PlayerLine fields = split_player_line(form.listAppIMP.item(index), static_cast<std::size_t>(index));
+    form.Text1.set_text(fields.words[0]);
+    form.Text2.set_text(fields.words[1]);
+    form.Text3.set_text(fields.words[2]);
+    form.listDat.add(left(fields.name, player_name_bytes));
+    Conv_PARAM(form);
+}
+
+}  // namespace
+
+void cmdExp_Click(frmKalco& form) {
+    if (form.cboSeqSQ.row() < 0) return;
+    form.listApp.select(form.listDat.row());
+    form.ListFile.clear();
+    const std::string path =
+        side_file_path(form.platform, directory::export_teams, form.txtSQ.text() + std::string(team_file_extension));
+    write_lines(path, {});
+    for (const std::string& line : team_file_head(form.txtSQ.text(), form.txtSqShort.text())) form.ListFile.add(line);
+    for (int player = 0; player < roster_players; ++player) form.ListFile.add(exported_line(form, player));
+    write_lines(path, form.ListFile.items());
+    form.inform("File creato con successo");
+}
+
+void cmdImp_Click(frmKalco& form) {
+    form.ImportPending = 1;
+    form.listAppIMP.clear();
+    const std::string path = form.platform.open_dialog(team_file_filter, form.platform.program_directory());
+    // The flag stays raised: the next save writes what the lists show.
+    if (path.empty()) return;
+    read_file(form, path);
+    show_names(form);
+    for (std::size_t line = 0; line < head_lines; ++line) form.listAppIMP.remove(0);
+    form.listDat.clear();
+    form.listApp.clear();
+    for (int index = 0; index < form.listAppIMP.count(); ++index) import_player(form, index);
+    form.listDat.select(0);
+}
+
+void cmdImpML_Click(frmKalco& form) {
+    cmdImp_Click(form);
+    form.ImportPending = 0;
+    form.ImportPendingML = 1;
+    for (TextBox* name : {&form.txtSqHEX, &form.txtSqDec, &form.txtSqShort}) name->set_text({});
+}
+
+void Conv_PARAM(frmKalco& form) {
+    for (TextBox* bytes : {&form.Text4, &form.Text5, &form.Text6}) bytes->set_text({});
+    const std::array<std::string, 3> words{form.Text1.text(), form.Text2.text(), form.Text3.text()};
+    const auto groups = groups_of_words(words);
+    form.Text4.set_text(groups[0]);
+    form.Text5.set_text(groups[1]);
+    form.Text6.set_text(groups[2]);
+    form.listApp.add(groups[0] + ' ' + groups[1] + ' ' + groups[2]);
+}
+
+void connect_team_exchange(frmKalco& form) {
+    form.slots.cmdImp = [&form] { cmdImp_Click(form); };
+    form.cmdExp.click = [&form] { cmdExp_Click(form); };
+    form.cmdImp.click = [&form] { cmdImp_Click(form); };
+    form.cmdImpML.click = [&form] { cmdImpML_Click(form); };
+}
+
+}  // namespace kalco
