@@ -57,13 +57,18 @@ public:
             const ssize_t put = ::pwrite(fd_.get(), bytes.data(), bytes.size(), offset);
             if (put < 0 && errno == EINTR) continue;
             if (put < 0) fail_write();
+            if (put == 0) throw RuntimeError(error::device_io);
             bytes.remove_prefix(static_cast<std::size_t>(put));
             offset += put;
         }
     }
 
     void flush() override {
-        if (::fsync(fd_.get()) != 0 && errno != EINVAL) fail_write();
+        while (::fsync(fd_.get()) != 0) {
+            if (errno == EINTR) continue;
+            if (errno == EINVAL) return;
+            fail_write();
+        }
     }
 
 private:
@@ -84,10 +89,17 @@ bool lock_exclusively(int fd) {
 #endif
 }
 
+int open_read_write(const std::string& path) {
+    for (;;) {
+        const int fd = ::open(path.c_str(), O_RDWR | O_CLOEXEC | O_NONBLOCK);
+        if (fd >= 0 || errno != EINTR) return fd;
+    }
+}
+
 }  // namespace
 
 std::unique_ptr<Storage> open_file(const std::string& path) {
-    FileDescriptor fd(::open(path.c_str(), O_RDWR | O_CLOEXEC | O_NONBLOCK));
+    FileDescriptor fd(open_read_write(path));
     if (fd.get() < 0) {
         const bool missing = errno == ENOENT && !path.empty();
         throw RuntimeError(missing ? error::file_not_found : error::path_access);
