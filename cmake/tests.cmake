@@ -45,6 +45,10 @@ if(TARGET kalcoctl)
     add_test(NAME kalcoctl_links COMMAND Python3::Interpreter ${PROJECT_SOURCE_DIR}/tests/check_links.py
         $<TARGET_FILE:kalcoctl>)
     set_tests_properties(kalcoctl_links PROPERTIES LABELS stories)
+    # The real program under the faults of a system.
+    add_test(NAME programs COMMAND Python3::Interpreter -B ${PROJECT_SOURCE_DIR}/tests/run_programs.py
+        --kalcoctl $<TARGET_FILE:kalcoctl> --junit ${results}/programs.xml)
+    set_tests_properties(programs PROPERTIES LABELS stories TIMEOUT 300 ENVIRONMENT "${test_env}")
 endif()
 
 add_test(NAME include_rule COMMAND Python3::Interpreter ${PROJECT_SOURCE_DIR}/tests/check_includes.py

@@ -1,9 +1,9 @@
 #include "ctl/demo_command.h"
 
 #include <chrono>
-#include <exception>
 #include <iostream>
 
+#include "ctl/command.h"
 #include "ctl/demo/demo_image.h"
 
 namespace kalco::demo {
@@ -37,15 +37,10 @@ CLI::App& add_demo_command(CLI::App& app, DemoOptions& options) {
     return command;
 }
 
-int make_demo(const DemoOptions& options) {
-    try {
-        const DemoDisc disc = make_demo_disc(options.seed);
-        write_image(disc, options.image, options.force, SlowProgress(disc.sectors()));
-    } catch (const std::exception& failure) {
-        std::cerr << "kalcoctl demo: " << failure.what() << '\n';
-        return 1;
-    }
-    return 0;
+int run_demo(const DemoOptions& options) {
+    const DemoDisc disc = make_demo_disc(options.seed);
+    write_image(disc, options.image, options.force, SlowProgress(disc.sectors()));
+    return ctl::done;
 }
 
 }  // namespace kalco::demo

@@ -16,7 +16,7 @@ struct DemoOptions {
 /// Declares the sub-command; its options must outlive the parsing.
 CLI::App& add_demo_command(CLI::App& app, DemoOptions& options);
 
-/// Makes the image and returns the exit status: 0, or 1 with the reason on standard error.
-int make_demo(const DemoOptions& options);
+/// Makes the image. Throws when it can't; the reason names the file.
+int run_demo(const DemoOptions& options);
 
 }  // namespace kalco::demo

@@ -1,43 +1,96 @@
 #include <CLI/CLI.hpp>
+#include <csignal>
 #include <cstdio>
-#include <cstdlib>
 #include <exception>
+#include <functional>
 #include <iostream>
+#include <string>
+#include <vector>
 
+#include "ctl/command.h"
 #include "ctl/demo_command.h"
 #include "ctl/script/script_options.h"
 #include "ctl/script/script_runner.h"
+#include "disc/image/process.h"
 #include "editor/editor.h"
 
 namespace {
 
-int run_on_model(std::istream& script, kalco::script::ScriptPlatform& platform) {
-    kalco::Editor editor(platform);
-    kalco::script::ModelStage stage(editor.form);
-    return kalco::script::run_script(script, stage, platform, std::cout, std::cerr);
+using namespace kalco;
+
+int run_on_model(std::istream& script, script::ScriptPlatform& platform) {
+    Editor editor(platform);
+    script::ModelStage stage(editor.form);
+    return script::run_script(script, stage, platform, std::cout, std::cerr);
 }
+
+/// The commands with their options, declared to the parser.
+class Commands {
+public:
+    explicit Commands(CLI::App& app) {
+        add(script::add_script_command(app, script_), [this] { return script::play_script(script_, run_on_model); });
+        add(demo::add_demo_command(app, demo_), [this] { return demo::run_demo(demo_); });
+    }
+    Commands(const Commands&) = delete;
+    Commands& operator=(const Commands&) = delete;
+
+    /// Runs the one that was parsed.
+    int run() const {
+        for (const Entry& entry : entries_) {
+            if (entry.command->parsed()) return run(entry);
+        }
+        return ctl::done;
+    }
+
+private:
+    struct Entry {
+        const CLI::App* command;
+        std::function<int()> run;
+    };
+
+    void add(const CLI::App& command, std::function<int()> run) { entries_.push_back({&command, std::move(run)}); }
+
+    static int run(const Entry& entry) {
+        try {
+            return entry.run();
+        } catch (const std::exception& failure) {
+            ctl::complain(entry.command->get_name(), failure.what());
+            return ctl::trouble;
+        }
+    }
+
+    std::vector<Entry> entries_;
+    script::ScriptOptions script_;
+    demo::DemoOptions demo_;
+};
 
 int run(int argc, char** argv) {
     CLI::App app("The companion of Kalco, the editor of a football game's CD image", "kalcoctl");
     app.require_subcommand(1);
     app.set_version_flag("--version", KALCO_VERSION);
-    kalco::script::ScriptOptions script_options;
-    const CLI::App& script = kalco::script::add_script_command(app, script_options);
-    kalco::demo::DemoOptions demo_options;
-    const CLI::App& demo = kalco::demo::add_demo_command(app, demo_options);
-    CLI11_PARSE(app, argc, argv);
-    if (script.parsed()) return kalco::script::play_script(script_options, run_on_model);
-    if (demo.parsed()) return kalco::demo::make_demo(demo_options);
-    return 0;
+    const Commands commands(app);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& failure) {
+        // --help and --version end the parsing too, but well.
+        return app.exit(failure) == 0 ? ctl::done : ctl::trouble;
+    }
+    return commands.run();
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
+    guard_process();
+    // A reader that goes away is told as lost output, when the work is done.
+    static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
+    int status = ctl::trouble;
     try {
-        return run(argc, argv);
+        status = run(argc, argv);
     } catch (const std::exception& failure) {
         static_cast<void>(std::fprintf(stderr, "kalcoctl: %s\n", failure.what()));
-        return EXIT_FAILURE;
     }
+    if (ctl::output_arrived()) return status;
+    static_cast<void>(std::fputs("kalcoctl: standard output can't be written\n", stderr));
+    return ctl::trouble;
 }

@@ -65,8 +65,8 @@ void refuse_existing(const std::string& path, bool replace) {
     std::error_code ignored;
     const fs::file_status status = fs::status(path, ignored);
     if (!fs::exists(status)) return;
-    if (!fs::is_regular_file(status)) throw std::runtime_error(path + " is no plain file");
-    if (!replace) throw std::runtime_error(path + " exists already; --force replaces it");
+    if (!fs::is_regular_file(status)) throw std::runtime_error(path + ": it is no plain file");
+    if (!replace) throw std::runtime_error(path + ": it exists already; --force replaces it");
 }
 
 }  // namespace
