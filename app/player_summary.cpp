@@ -4,7 +4,7 @@
 
 #include "app/text.h"
 #include "disc/codec/decimal.h"
-#include "disc/pool_codes.h"
+#include "disc/player_codes.h"
 #include "disc/roster.h"
 #include "disc/runtime_error.h"
 #include "disc/team_file.h"

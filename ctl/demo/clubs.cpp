@@ -4,7 +4,7 @@
 
 #include "ctl/demo/line_ups.h"
 #include "disc/codec/hextext.h"
-#include "disc/pool_codes.h"
+#include "disc/player_codes.h"
 
 namespace kalco::demo {
 namespace {

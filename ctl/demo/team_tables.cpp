@@ -3,10 +3,10 @@
 #include "ctl/demo/tables.h"
 #include "disc/codec/hextext.h"
 #include "disc/formation_facts.h"
+#include "disc/links.h"
 #include "disc/numbers.h"
 #include "editor/formations/bars.h"
 #include "editor/kickers/set_pieces.h"
-#include "editor/league/links.h"
 
 namespace kalco::demo {
 namespace {
@@ -64,7 +64,7 @@ void put_links(DemoDisc& disc, const World& world) {
     for (int number = 0; number < club_count; ++number) {
         std::string digits;
         for (const std::string& code : world.clubs[static_cast<std::size_t>(number)].codes) digits += code;
-        disc.put(link_table_field(number), bytes_of_digits(digits));
+        disc.put(link_table_field(kalco::Club(number)), bytes_of_digits(digits));
     }
 }
 

@@ -5,7 +5,7 @@
 #include "ctl/demo/clubs.h"
 #include "ctl/demo/line_ups.h"
 #include "disc/formation.h"
-#include "disc/pool_codes.h"
+#include "disc/player_codes.h"
 
 namespace kalco::demo {
 namespace {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <compare>
+#include <cstddef>
 #include <optional>
 
 /// The four ways of counting teams and players. Each is a type of its own, so that one can't be passed for another.

@@ -177,8 +177,11 @@ std::optional<NameEntry> Off_Name_HEX(int team);
 std::optional<NameEntry> Off_NameII(int row);
 
 /// Short names: 3 bytes each, in falling position with rising index.
+constexpr ImagePos short_name_position(Team team) {
+    return 2005377 - 4 * (team.value() + 1);
+}
 constexpr ImagePos short_name_position(int team) {
-    return 2005377 - 4 * (team + 1);
+    return short_name_position(Team(team));
 }
 inline constexpr int short_name_bytes = 3;
 

@@ -5,7 +5,8 @@
 
 #include "disc/codec/hextext.h"
 #include "disc/codec/latin1.h"
-#include "disc/pool_codes.h"
+#include "disc/links.h"
+#include "disc/teams.h"
 #include "editor/league/club_names.h"
 
 namespace kalco {
@@ -62,7 +63,7 @@ int club_row_of_tab(const frmKalco& form) {
 }
 
 std::vector<std::string> read_links(const Image& image, int club) {
-    const std::string digits = hex_digits(image.read(link_table_field(club)));
+    const std::string digits = hex_digits(image.read(link_table_field(Club(club))));
     std::vector<std::string> codes;
     for (std::size_t place = 0; place < digits.size(); place += code_digits) {
         codes.push_back(digits.substr(place, code_digits));
@@ -108,19 +109,9 @@ void show_roster(const frmKalco& form, ListBox& list, const std::vector<std::str
 
 void LinKML(int row, ImagePos& position1, ImagePos& position2) {
     if (!is_club_row(row)) return;
-    const Pieces field = link_table_field(row - first_club_row);
+    const Pieces field = link_table_field(*club_of(TeamRow(row)));
     position1 = field.position();
     if (field.split()) position2 = field[1].position;
-}
-
-void write_link_table(Image& image, int club, std::string_view digits) {
-    image.write(link_table_field(club), bytes_of_digits(digits));
-}
-
-std::string links_to_team(int team) {
-    std::string digits;
-    for (int number = 0; number < roster_players; ++number) digits += hex_number(team, 2) + hex_number(number, 2);
-    return digits;
 }
 
 void NAMES_GIOC_NAZ(frmKalco& form) {
@@ -156,7 +147,7 @@ void cmdLink_Click(frmKalco& form) {
         return;
     }
     if (!form.txtNmLgML.text().empty() && !form.txtNmShML.text().empty()) SAVE_NAME_ML2(form);
-    write_link_table(form.image, form.listDefault.row(), links_to_team(form.listSQLink.row()));
+    write_links(form.image, Club(form.listDefault.row()), links_to_team(Team(form.listSQLink.row())));
     form.inform("Salvataggio effettuato con successo");
     form.reopen_image();
 }

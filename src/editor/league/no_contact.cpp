@@ -4,8 +4,9 @@
 
 #include "disc/codec/decimal.h"
 #include "disc/codec/latin1.h"
+#include "disc/links.h"
+#include "disc/player_codes.h"
 #include "disc/player_writing.h"
-#include "disc/pool_codes.h"
 #include "disc/roster.h"
 #include "editor/league/club_names.h"
 #include "editor/league/links.h"
@@ -153,7 +154,7 @@ void cmdSaveNC_Click(frmKalco& form) {
     if (club < 0) return;
     SAVE_NC(form);
     SAVE_NAME_ML(form);
-    write_link_table(form.image, club, form.Text7.text());
+    write_link_table(form.image, Club(club), form.Text7.text());
     form.inform("Salvataggio effettuato con successo");
     form.reopen_image();
     cmdNew_Click(form);

@@ -10,14 +10,13 @@
 #include "disc/codec/latin1.h"
 #include "disc/codec/letters.h"
 #include "disc/formation.h"
+#include "disc/links.h"
 #include "disc/numbers.h"
 #include "disc/player_record.h"
-#include "disc/pool_codes.h"
 #include "disc/roster.h"
 #include "disc/teams.h"
 #include "editor/formations/bars.h"
 #include "editor/kickers/set_pieces.h"
-#include "editor/league/links.h"
 #include "support/memory_storage.h"
 
 namespace kalco {
@@ -230,24 +229,21 @@ TEST_F(DemoImage, AssignsSetPiecesToTheFirstEleven) {
 }
 
 TEST_F(DemoImage, LinksClubsToPlayersThatExist) {
-    const std::vector<std::string> places = roster_codes();
-    const std::vector<std::string> rows = pool_codes();
     int of_the_pool = 0;
     int whole_teams = 0;
     std::vector<std::string> unknown;
     for (int club = 0; club < club_count; ++club) {
-        const std::string digits = hex_digits(image.read(link_table_field(club)));
-        for (int team = 0; team < roster_team_count; ++team) whole_teams += digits == links_to_team(team) ? 1 : 0;
+        const Links links = read_links(image, Club(club));
+        for (int team = 0; team < roster_team_count; ++team) whole_teams += links == links_to_team(Team(team)) ? 1 : 0;
         std::set<std::string> codes;
-        for (std::size_t place = 0; place < digits.size(); place += 4) {
-            const std::string code = digits.substr(place, 4);
-            codes.insert(code);
-            const auto row = std::find(rows.begin(), rows.end(), code);
-            if (row != rows.end()) {
+        for (const PlayerCode link : links) {
+            codes.insert(digits_of(link));
+            const auto player = player_of(link);
+            if (!player) {
+                unknown.push_back(digits_of(link));
+            } else if (const auto* const row = std::get_if<PoolRow>(&*player)) {
                 ++of_the_pool;
-                EXPECT_EQ(std::count(DefaultSlots.begin(), DefaultSlots.end(), row - rows.begin()), 0) << code;
-            } else if (std::find(places.begin(), places.end(), code) == places.end()) {
-                unknown.push_back(code);
+                EXPECT_EQ(std::count(DefaultSlots.begin(), DefaultSlots.end(), row->value()), 0) << digits_of(link);
             }
         }
         EXPECT_EQ(codes.size(), 23U) << club;

@@ -4,6 +4,7 @@
 
 #include "core/editor/league/league_run.h"
 #include "disc/codec/latin1.h"
+#include "disc/links.h"
 #include "support/disc_tables.h"
 
 namespace kalco {
@@ -30,11 +31,11 @@ TEST(LinkTables, LieWhereTheTablePrintsThem) {
         LinKML(club + 54, position1, position2);
         EXPECT_EQ(position1, printed_link_position(club)) << club;
         EXPECT_EQ(position2, club == 6 ? 2013337 : 0) << club;
-        EXPECT_EQ(link_table_field(club).split(), club == 6) << club;
-        EXPECT_EQ(link_table_field(club).bytes(), 46) << club;
+        EXPECT_EQ(link_table_field(Club(club)).split(), club == 6) << club;
+        EXPECT_EQ(link_table_field(Club(club)).bytes(), 46) << club;
     }
     EXPECT_EQ(printed_link_position(31), 2014459);
-    EXPECT_EQ(link_table_field(6), (Pieces{{2013005, 28}, {2013337, 18}}));
+    EXPECT_EQ(link_table_field(Club(6)), (Pieces{{2013005, 28}, {2013337, 18}}));
 }
 
 TEST(LinkTables, OfNoClubLeaveThePositionsAsTheyWere) {

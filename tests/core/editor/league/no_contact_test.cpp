@@ -5,7 +5,7 @@
 #include <algorithm>
 
 #include "core/editor/league/league_run.h"
-#include "disc/pool_codes.h"
+#include "disc/player_codes.h"
 #include "support/disc_tables.h"
 #include "support/team_files.h"
 

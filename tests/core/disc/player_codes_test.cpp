@@ -1,7 +1,8 @@
-#include "disc/pool_codes.h"
+#include "disc/player_codes.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
 #include <set>
 #include <sstream>
@@ -90,9 +91,55 @@ TEST(PoolCodes, TellTheNationality) {
         const auto told = nationality_of(two_digits(nation));
         ASSERT_EQ(told.has_value(), found != names.end()) << nation;
         EXPECT_EQ(told.value_or(""), found != names.end() ? found->second : "");
+        EXPECT_EQ(nationality_of(nation), told) << nation;
     }
-    EXPECT_FALSE(nationality_of(""));
+    for (const char* text : {"", "0", "0a", "00A", "0A ", "G0"}) EXPECT_FALSE(nationality_of(text)) << text;
     for (const std::string& code : pool_codes()) EXPECT_TRUE(nationality_of(code.substr(0, 2))) << code;
+}
+
+TEST(PlayerCodes, MeanTheRowsOfTheTwoTables) {
+    const Texts rosters = roster_codes();
+    const Texts pool = printed_codes();
+    int players = 0;
+    for (int team = 0; team < 256; ++team) {
+        for (int number = 0; number < 256; ++number) {
+            const PlayerCode code{static_cast<std::uint8_t>(team), static_cast<std::uint8_t>(number)};
+            const std::string digits = two_digits(team) + two_digits(number);
+            ASSERT_EQ(digits_of(code), digits);
+            ASSERT_EQ(code_of_digits(digits), code);
+            const auto player = player_of(code);
+            const auto row = std::find(pool.begin(), pool.end(), digits);
+            if (row != pool.end()) {
+                ASSERT_EQ(player, PlayerPlace(PoolRow(static_cast<int>(row - pool.begin())))) << digits;
+            } else if (team < 63 && number < 23) {
+                ASSERT_EQ(player, (PlayerPlace(RosterPlace{Team(team), number}))) << digits;
+                ASSERT_EQ(rosters[static_cast<std::size_t>(23 * team + number)], digits);
+            } else {
+                ASSERT_FALSE(player) << digits;
+                continue;
+            }
+            ++players;
+            ASSERT_EQ(code_of(*player), code) << digits;
+        }
+    }
+    EXPECT_EQ(players, 1449 + 462);
+    EXPECT_EQ(digits_of(vardal_code), "2517");
+    EXPECT_FALSE(player_of(vardal_code));
+}
+
+TEST(PlayerCodes, OfPlacesThatDoNotExistAreNone) {
+    for (const RosterPlace place : {RosterPlace{Team(63), 0}, RosterPlace{Team(-1), 0}, RosterPlace{Team(0), 23},
+                                    RosterPlace{Team(0), -1}, RosterPlace{Team(95), 3}}) {
+        EXPECT_FALSE(code_of(place)) << place.team.value();
+    }
+    for (const int row : {-1, 462}) EXPECT_FALSE(code_of(PoolRow(row))) << row;
+}
+
+TEST(PlayerCodes, AreFourDigits) {
+    EXPECT_EQ(code_of_digits("0a1F"), (PlayerCode{0x0A, 0x1F}));
+    for (const char* text : {"", "2", "251", "25170", "25 7", "+517", "G517", "251g"}) {
+        EXPECT_FALSE(code_of_digits(text)) << text;
+    }
 }
 
 TEST(PoolCodes, StandInTheListsFromTheStart) {
