@@ -8,7 +8,7 @@ if(fuzz_sources)
 endif()
 
 add_compile_options(-fsanitize=fuzzer-no-link)
-foreach(storey kalco_disc kalco_editor)
+foreach(storey kalco_disc kalco_work kalco_editor)
     target_compile_options(${storey} PRIVATE -fsanitize=fuzzer-no-link)
 endforeach()
 include(cmake/ctl.cmake)
