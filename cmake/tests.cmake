@@ -9,27 +9,47 @@ set(test_bin ${CMAKE_BINARY_DIR}/tests)
 set(test_env LC_ALL=C.UTF-8 QT_QPA_PLATFORM=offscreen
     UBSAN_OPTIONS=print_stacktrace=1 LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0)
 
-# core_tests: one program, run in a few shards side by side.
-file(GLOB_RECURSE core_test_sources CONFIGURE_DEPENDS tests/core/*.cpp)
+# core_tests: one program for each folder of tests/core, core_<folder>_tests, so that a change builds what it touches.
+# The slow one runs in shards, side by side.
 file(GLOB support_sources CONFIGURE_DEPENDS tests/support/*.cpp)
-if(core_test_sources AND NOT GTest_FOUND)
-    message(STATUS "GoogleTest is missing: core_tests is left out")
-elseif(core_test_sources)
-    add_executable(core_tests ${core_test_sources} ${support_sources})
-    set_target_properties(core_tests PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${test_bin})
-    target_include_directories(core_tests PRIVATE tests ${PROJECT_SOURCE_DIR})
-    target_link_libraries(core_tests PRIVATE
-        kalco_ctl kalco_script GTest::gtest GTest::gtest_main kalco_warnings)
+file(GLOB_RECURSE shared_sources CONFIGURE_DEPENDS tests/core/*.cpp)
+list(FILTER shared_sources EXCLUDE REGEX "_test\\.cpp$")
+add_custom_target(core_tests)
+if(NOT GTest_FOUND)
+    message(STATUS "GoogleTest is missing: the core tests are left out")
+else()
+    add_library(core_support STATIC ${support_sources} ${shared_sources})
+    target_include_directories(core_support PUBLIC tests ${PROJECT_SOURCE_DIR})
+    target_link_libraries(core_support PUBLIC kalco_ctl kalco_script kalco_editor kalco_work GTest::gtest
+                                       PRIVATE kalco_warnings)
     if(KALCO_PCH)
-        target_precompile_headers(core_tests PRIVATE
+        target_precompile_headers(core_support PRIVATE
             <gtest/gtest.h> <array> <filesystem> <fstream> <functional> <random> <span> <string> <vector>)
     endif()
-    set(shards 4)
-    foreach(shard RANGE 1 ${shards})
-        math(EXPR index "${shard} - 1")
-        add_test(NAME core_${shard} COMMAND core_tests --gtest_brief=1 --gtest_output=xml:${results}/core_${shard}.xml)
-        set_tests_properties(core_${shard} PROPERTIES LABELS core TIMEOUT 600
-            ENVIRONMENT "${test_env};GTEST_TOTAL_SHARDS=${shards};GTEST_SHARD_INDEX=${index}")
+    file(GLOB core_folders CONFIGURE_DEPENDS LIST_DIRECTORIES true tests/core/*)
+    set(shards_of_editor 4)
+    foreach(path ${core_folders})
+        get_filename_component(folder ${path} NAME)
+        file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${path}/*_test.cpp)
+        set(program core_${folder}_tests)
+        add_executable(${program} ${sources})
+        set_target_properties(${program} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${test_bin})
+        target_link_libraries(${program} PRIVATE core_support GTest::gtest_main kalco_warnings)
+        if(KALCO_PCH)
+            target_precompile_headers(${program} REUSE_FROM core_support)
+        endif()
+        add_dependencies(core_tests ${program})
+        set(shards 1)
+        if(DEFINED shards_of_${folder})
+            set(shards ${shards_of_${folder}})
+        endif()
+        foreach(shard RANGE 1 ${shards})
+            math(EXPR index "${shard} - 1")
+            add_test(NAME core_${folder}_${shard} COMMAND ${program} --gtest_brief=1
+                --gtest_output=xml:${results}/core_${folder}_${shard}.xml)
+            set_tests_properties(core_${folder}_${shard} PROPERTIES LABELS core TIMEOUT 600
+                ENVIRONMENT "${test_env};GTEST_TOTAL_SHARDS=${shards};GTEST_SHARD_INDEX=${index}")
+        endforeach()
     endforeach()
 endif()
 
