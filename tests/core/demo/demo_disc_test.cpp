@@ -96,8 +96,11 @@ TEST_F(DemoImage, HasValidSectorsBeyondTheLastTable) {
     for (std::size_t number = 0; number < bytes->size() / sector_bytes; ++number) {
         RawSector sector{};
         std::copy_n(bytes->begin() + static_cast<std::ptrdiff_t>(number * sector_bytes), sector_bytes, sector.begin());
-        ASSERT_TRUE(sector_is_valid(sector)) << number;
-        ASSERT_EQ(sector_address(sector), number);
+        ASSERT_EQ(kind_of(sector), SectorKind::form1) << number;
+        ASSERT_FALSE(bad_fields(system_area_sectors, sector).any()) << number;
+        std::array<std::uint8_t, user_bytes> user{};
+        std::copy_n(sector.begin() + user_start, user_bytes, user.begin());
+        ASSERT_EQ(sector, make_sector(static_cast<std::uint32_t>(number), user));
     }
 }
 

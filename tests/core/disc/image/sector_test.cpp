@@ -10,10 +10,12 @@
 
 namespace {
 
+using kalco::bad_fields;
+using kalco::disc_time;
+using kalco::kind_of;
 using kalco::make_sector;
 using kalco::RawSector;
-using kalco::sector_address;
-using kalco::sector_is_valid;
+using kalco::SectorKind;
 
 using UserData = std::array<std::uint8_t, kalco::user_bytes>;
 
@@ -104,30 +106,41 @@ TEST(Sector, AddressIsTheDiscsClockInBcd) {
     struct Case {
         std::uint32_t lba;
         std::array<std::uint8_t, 3> clock;
+        const char* time;
     };
-    for (const Case& c : {Case{0, {0x00, 0x02, 0x00}}, Case{74, {0x00, 0x02, 0x74}}, Case{75, {0x00, 0x03, 0x00}},
-                          Case{16, {0x00, 0x02, 0x16}}, Case{4349, {0x00, 0x59, 0x74}}, Case{4350, {0x01, 0x00, 0x00}},
-                          Case{332999, {0x74, 0x01, 0x74}}, Case{449849, {0x99, 0x59, 0x74}}}) {
+    for (const Case& c : {Case{0, {0x00, 0x02, 0x00}, "00:02:00"}, Case{74, {0x00, 0x02, 0x74}, "00:02:74"},
+                          Case{75, {0x00, 0x03, 0x00}, "00:03:00"}, Case{16, {0x00, 0x02, 0x16}, "00:02:16"},
+                          Case{1234, {0x00, 0x18, 0x34}, "00:18:34"}, Case{4349, {0x00, 0x59, 0x74}, "00:59:74"},
+                          Case{4350, {0x01, 0x00, 0x00}, "01:00:00"}, Case{332999, {0x74, 0x01, 0x74}, "74:01:74"},
+                          Case{449849, {0x99, 0x59, 0x74}, "99:59:74"}}) {
         const RawSector sector = make_sector(c.lba, user);
         EXPECT_TRUE(std::equal(c.clock.begin(), c.clock.end(), sector.begin() + 12)) << c.lba;
-        EXPECT_EQ(sector_address(sector), c.lba);
+        EXPECT_EQ(disc_time(c.lba), c.time);
     }
     EXPECT_THROW(make_sector(449850, user), std::out_of_range);
     EXPECT_THROW(make_sector(0xFFFFFFFF, user), std::out_of_range);
+    EXPECT_EQ(disc_time(449850), "100:00:00");
+    EXPECT_EQ(disc_time(0x100000000), "954437:12:46");
 }
 
-TEST(Sector, ImpossibleAddressesAreNone) {
-    RawSector sector = make_sector(100, UserData{});
-    struct Case {
-        std::uint8_t minute, second, frame;
-    };
-    for (const Case& c : {Case{0x0A, 0x02, 0x00}, Case{0xA0, 0x02, 0x00}, Case{0x00, 0x60, 0x00},
-                          Case{0x00, 0x02, 0x75}, Case{0x00, 0x02, 0x7F}, Case{0x00, 0x01, 0x74}}) {
-        sector[12] = c.minute;
-        sector[13] = c.second;
-        sector[14] = c.frame;
-        EXPECT_EQ(sector_address(sector), std::nullopt);
-        EXPECT_FALSE(sector_is_valid(sector));
+TEST(Sector, KindsAreToldBySyncModeAndForm) {
+    RawSector sector = make_sector(0, UserData{});
+    EXPECT_EQ(kind_of(sector), SectorKind::form1);
+    sector[18] |= 0x20;
+    EXPECT_EQ(kind_of(sector), SectorKind::form2);
+    sector[18] = 0xDF;
+    sector[22] = 0xFF;  // the copy is not looked at
+    EXPECT_EQ(kind_of(sector), SectorKind::form1);
+    sector[15] = 1;
+    EXPECT_EQ(kind_of(sector), SectorKind::mode1);
+    for (const int mode : {0, 3, 0x11, 0xFF}) {
+        sector[15] = static_cast<std::uint8_t>(mode);
+        EXPECT_EQ(kind_of(sector), SectorKind::other) << mode;
+    }
+    for (std::size_t k = 0; k < 12; ++k) {
+        sector = make_sector(0, UserData{});
+        sector[k] ^= 0x10;
+        EXPECT_EQ(kind_of(sector), SectorKind::other) << k;
     }
 }
 
@@ -190,33 +203,10 @@ TEST(Sector, AMovedSectorKeepsItsChecks) {
     EXPECT_TRUE(std::equal(here.begin() + 16, here.end(), there.begin() + 16));
 }
 
-TEST(Sector, MadeSectorsAreValid) {
-    EXPECT_TRUE(sector_is_valid(make_sector(0, UserData{})));
+TEST(Sector, MadeSectorsFit) {
+    EXPECT_FALSE(bad_fields(16, make_sector(0, UserData{})).any());
     for (std::uint32_t seed = 0; seed < 50; ++seed)
-        EXPECT_TRUE(sector_is_valid(make_sector(seed * 8999, random_user_data(seed))));
-    EXPECT_FALSE(sector_is_valid(RawSector{}));
-}
-
-// The three bytes of the address are covered by no check: any other time of the clock is as valid.
-TEST(Sector, EveryFlippedBitBehindTheAddressIsFound) {
-    RawSector sector = make_sector(4711, random_user_data(3));
-    for (std::size_t k = 0; k < sector.size(); ++k) {
-        if (k >= 12 && k < 15) continue;
-        const auto bit = static_cast<std::uint8_t>(1U << (k % 8));
-        sector[k] ^= bit;
-        EXPECT_FALSE(sector_is_valid(sector)) << k;
-        sector[k] ^= bit;
-    }
-    EXPECT_TRUE(sector_is_valid(sector));
-}
-
-TEST(Sector, WrongModeOrFormIsNotValidWithAnyParity) {
-    RawSector sector = make_sector(1, UserData{});
-    sector[15] = 1;
-    EXPECT_FALSE(sector_is_valid(sector));
-    sector = make_sector(1, UserData{});
-    sector[18] = sector[22] = 0x28;
-    EXPECT_FALSE(sector_is_valid(sector));
+        EXPECT_FALSE(bad_fields(16, make_sector(seed * 8999, random_user_data(seed))).any());
 }
 
 }  // namespace
