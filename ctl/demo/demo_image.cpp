@@ -1,6 +1,7 @@
 #include "ctl/demo/demo_image.h"
 
 #include "ctl/demo/tables.h"
+#include "ctl/demo/volume_descriptor.h"
 #include "disc/teams.h"
 
 namespace kalco::demo {
@@ -13,15 +14,13 @@ std::uint32_t sector_of(ImagePos position) {
     return static_cast<std::uint32_t>((position - 1) / sector_bytes);
 }
 
-/// The system area at the start of a disc stays empty.
-constexpr std::uint32_t system_area_sectors = 16;
-
 }  // namespace
 
 DemoDisc make_demo_disc(std::uint64_t seed) {
     DemoDisc disc(sector_of(Call_Name(0)[2]->position) + 1 + sectors_behind_the_tables);
     Random other_data(seed, "other data");
-    disc.scatter(system_area_sectors, other_data);
+    disc.scatter(volume_descriptor_sector, other_data);  // the system area before it stays empty
+    put_volume_descriptors(disc, seed);
 
     const World world = make_world(seed);
     Random rosters(seed, "rosters");

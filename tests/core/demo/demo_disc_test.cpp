@@ -104,6 +104,34 @@ TEST_F(DemoImage, HasValidSectorsBeyondTheLastTable) {
     }
 }
 
+TEST_F(DemoImage, BeginsWithAVolumeDescriptor) {
+    const auto user_data = [](std::size_t sector, std::size_t offset, std::size_t count) {
+        return bytes->substr(sector * sector_bytes + user_start + offset, count);
+    };
+    EXPECT_EQ(bytes->substr(0x9319, 5), "CD001");
+    EXPECT_EQ(user_data(16, 0, 8), std::string("\1CD001\1\0", 8));
+    EXPECT_EQ(user_data(16, 40, 32), "KALCO_DEMO_1                    ");
+    // 2416 sectors, low byte first, then high byte first.
+    EXPECT_EQ(bytes->size() / sector_bytes, 0x970U);
+    EXPECT_EQ(user_data(16, 80, 8), std::string("\x70\x09\0\0\0\0\x09\x70", 8));
+    EXPECT_EQ(user_data(16, 128, 4), std::string("\0\x08\x08\0", 4));
+    EXPECT_EQ(user_data(16, 813, 17), std::string("2001010100000000\0", 17));
+    EXPECT_EQ(user_data(17, 0, 8), std::string("\xFF"
+                                               "CD001\1\0",
+                                               8));
+    EXPECT_EQ(user_data(17, 8, 2040), std::string(2040, '\0'));
+    EXPECT_EQ(user_data(15, 0, 2048), std::string(2048, '\0'));
+}
+
+// Descriptors took the place of what meant nothing: every other sector is the same as ever.
+TEST(DemoSeeds, KeepTheSectorsBehindTheDescriptors) {
+    std::uint64_t hash = 0xCBF29CE484222325U;
+    for (const char byte : raw_bytes(demo::make_demo_disc(1)).substr(18 * sector_bytes)) {
+        hash = (hash ^ static_cast<unsigned char>(byte)) * 0x100000001B3U;
+    }
+    EXPECT_EQ(hash, 0x189F02058D629614U);
+}
+
 TEST_F(DemoImage, NamesEveryTeamInEveryTable) {
     for (int team = 0; team < team_count; ++team) {
         const std::string row(team_facts[static_cast<std::size_t>(team)].row);
@@ -261,7 +289,7 @@ TEST(DemoSeeds, GiveTheSameBytesForever) {
     for (const char byte : raw_bytes(demo::make_demo_disc(1))) {
         hash = (hash ^ static_cast<unsigned char>(byte)) * 0x100000001B3U;
     }
-    EXPECT_EQ(hash, 0x2F25844989C7A8B9U);
+    EXPECT_EQ(hash, 0xB51CB4CBA1DAB3CDU);
 }
 
 TEST(DemoSeeds, GiveOtherPlayersEach) {
