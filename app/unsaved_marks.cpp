@@ -3,43 +3,38 @@
 #include <QLabel>
 #include <QWidget>
 
+#include "disc/bars.h"
 #include "disc/codec/hextext.h"
 #include "disc/formation.h"
-#include "disc/formation_facts.h"
 #include "disc/numbers.h"
 #include "disc/runtime_error.h"
-#include "disc/teams.h"
-#include "editor/formations/bars.h"
+#include "editor/window/frmKalco.h"
 
 namespace kalco::app {
 namespace {
 
 bool pitch_unsaved(frmKalco& form) {
-    const int row = form.cboSeqSQ2.row();
-    if (form.SSTab1.tab() != tab::formations || row < 0) return false;
-    const std::string record = form.image.read(formation_field(row));
+    const TeamRow row(form.cboSeqSQ2.row());
+    if (form.SSTab1.tab() != tab::formations || !row.exists()) return false;
+    const Formation stored = read_formation(form.image, row);
     for (int k = first_marker; k <= last_marker; ++k) {
-        const auto place = static_cast<std::size_t>(k);
-        const auto byte = [&](std::size_t column) {
-            return static_cast<unsigned char>(record[column * outfield_players + place - first_marker]);
-        };
-        if (role_label(hex_digits(std::string(1, static_cast<char>(byte(0))))) != form.lblGioc(k).caption()) {
-            return true;
-        }
-        if (byte(1) != form.FormationX[place] || byte(2) != form.FormationY[place]) return true;
+        const auto marker = static_cast<std::size_t>(k);
+        const std::size_t player = marker - first_marker;
+        if (role_label(stored.roles[player]) != form.lblGioc(k).caption()) return true;
+        if (stored.x[player] != form.FormationX[marker] || stored.y[player] != form.FormationY[marker]) return true;
     }
     return false;
 }
 
 bool bars_unsaved(frmKalco& form) {
-    const int row = form.cboSeqSQ2.row();
-    if (form.SSTab1.tab() != tab::formations || row < 0 || row >= bar_teams) return false;
-    return hex_digits(form.image.read(bars_field(row))) != form.listApp2.item(row);
+    const TeamRow row(form.cboSeqSQ2.row());
+    if (form.SSTab1.tab() != tab::formations || !has_bars(row)) return false;
+    return hex_digits(form.image.read(bars_field(row))) != form.listApp2.item(row.value());
 }
 
 bool numbers_unsaved(frmKalco& form) {
-    const int row = form.cboSQNum.row();
-    if (form.SSTab1.tab() != tab::numbers || row < 0) return false;
+    const TeamRow row(form.cboSQNum.row());
+    if (form.SSTab1.tab() != tab::numbers || !row.exists()) return false;
     const std::string record = form.image.read(number_field(row));
     const bool nation = is_nation(row);
     return (nation ? decode_national_numbers(record) : decode_club_numbers(record)) != form.ListNum.items();

@@ -7,7 +7,8 @@
 #include <filesystem>
 #include <string>
 
-#include "disc/formation_facts.h"
+#include "disc/bars.h"
+#include "disc/formation.h"
 #include "disc/teams.h"
 #include "editor/editor.h"
 #include "editor/formations/bars.h"

@@ -46,8 +46,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::string after = desk.tables();
     fuzzing::require(after.size() == before.size(), "the image keeps its size");
     for (std::string* tables : {&before, &after}) {
-        if (answer != Answer::cancel) forget(*tables, bars_field(row));
-        if (answer != Answer::no) forget(*tables, formation_field(row));
+        if (answer != Answer::cancel) forget(*tables, bars_field(TeamRow(row)));
+        if (answer != Answer::no) forget(*tables, formation_field(TeamRow(row)));
     }
     fuzzing::require(before == after, "only the team's records change");
     if (failure == 0) desk.click(desk.form.cmdExport);

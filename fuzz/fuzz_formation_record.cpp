@@ -55,7 +55,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     static fuzzing::FormationDesk desk;
     desk.begin();
     const int row = data[0] % (default_row + 1);
-    const Pieces field = formation_field(row);
+    const Pieces field = formation_field(TeamRow(row));
     desk.form.image.write(field, {reinterpret_cast<const char*>(data) + record_start, formation_bytes});
     const std::string before = desk.tables();
 

@@ -23,7 +23,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         user::click(form, form.cmdExpKick);
     });
     fuzz::require(failure == 0);
-    const std::size_t start = static_cast<std::size_t>(set_piece_field(row).position() - 1);
+    const std::size_t start = static_cast<std::size_t>(set_piece_field(TeamRow(row)).position() - 1);
     const std::size_t written = std::min(file.find_first_of("\r\n"), file.size()) / 2;
     std::string expected = image.substr(0, start);
     fuzz::require(desk.disc.bytes.compare(0, start, expected) == 0);

@@ -77,13 +77,7 @@ void keep_readable(PlayerValues& values) {
 }  // namespace
 
 std::string Player::record() const {
-    std::string bytes;
-    for (const std::int64_t word : pack_player(values)) {
-        for (int shift = 0; shift < 32; shift += 8) {
-            bytes += static_cast<char>((static_cast<std::uint64_t>(word) >> shift) & 0xFFU);
-        }
-    }
-    return bytes;
+    return record_of_words(pack_player(values));
 }
 
 int Player::cost() const {

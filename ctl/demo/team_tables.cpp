@@ -1,12 +1,12 @@
 #include <algorithm>
 
 #include "ctl/demo/tables.h"
+#include "disc/bars.h"
 #include "disc/codec/hextext.h"
-#include "disc/formation_facts.h"
+#include "disc/formation.h"
 #include "disc/links.h"
 #include "disc/numbers.h"
-#include "editor/formations/bars.h"
-#include "editor/kickers/set_pieces.h"
+#include "disc/set_pieces.h"
 
 namespace kalco::demo {
 namespace {
@@ -73,7 +73,7 @@ void put_formations(DemoDisc& disc, const World& world, Random& random) {
         disc.put(field_at(FormationBase + formation_bytes * team, formation_bytes),
                  formation_of(squad_of(world, team), random));
     }
-    disc.put(formation_field(default_row), formation_of(world.default_team, random));
+    disc.put(formation_field(default_team_row), formation_of(world.default_team, random));
 }
 
 void put_bars(DemoDisc& disc, const World& world, Random& random) {
@@ -90,9 +90,9 @@ void put_bars(DemoDisc& disc, const World& world, Random& random) {
 }
 
 void put_numbers(DemoDisc& disc, const World& world) {
-    for (int row = 0; row <= default_row; ++row) {
-        const Squad& squad = row == default_row ? world.default_team : squad_of(world, team_of_row(row));
-        const bool nation = row < first_club_row;
+    for (const TeamRow row : every<TeamRow>()) {
+        const Squad& squad = row == default_team_row ? world.default_team : squad_of(world, team_of(row).value());
+        const bool nation = is_nation(row);
         const std::vector<std::string> entries = entries_of(squad);
         disc.put(number_field(row),
                  bytes_of_digits(nation ? pack_national_numbers(entries) : pack_club_numbers(entries)));
@@ -109,7 +109,7 @@ void put_set_pieces(DemoDisc& disc, const World& world) {
         disc.put(field_at(SetPieceBase + set_piece_bytes * team, set_piece_bytes),
                  set_pieces_of(squad_of(world, team)));
     }
-    disc.put(set_piece_field(default_row), set_pieces_of(world.default_team));
+    disc.put(set_piece_field(default_team_row), set_pieces_of(world.default_team));
 }
 
 }  // namespace kalco::demo

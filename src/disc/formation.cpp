@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "disc/codec/hextext.h"
-#include "disc/teams.h"
+#include "disc/codec/latin1.h"
 
 namespace kalco {
 namespace {
@@ -18,9 +18,43 @@ constexpr int rounded_to_even(int n, int d) {
 
 }  // namespace
 
-Pieces formation_field(int row) {
-    if (row == default_row) return Piece{default_team_formation, formation_bytes};
-    return field_at(FormationBase + formation_bytes * team_of_row(row), formation_bytes);
+Pieces formation_field(TeamRow row) {
+    if (row == default_team_row) return Piece{default_team_formation, formation_bytes};
+    return field_at(FormationBase + formation_bytes * team_of(row).value(), formation_bytes);
+}
+
+Formation unpack_formation(std::string_view record) {
+    Formation formation;
+    for (Formation::Column* column : {&formation.roles, &formation.x, &formation.y}) {
+        const std::size_t taken = std::min(record.size(), column->size());
+        std::copy_n(record.begin(), taken, column->begin());
+        record.remove_prefix(taken);
+    }
+    return formation;
+}
+
+std::string pack_formation(const Formation& formation) {
+    std::string record;
+    for (const Formation::Column& column : {formation.roles, formation.x, formation.y}) {
+        record.append(column.begin(), column.end());
+    }
+    return record;
+}
+
+Formation read_formation(const Image& image, TeamRow row) {
+    return unpack_formation(image.read(formation_field(row)));
+}
+
+void write_formation(Image& image, TeamRow row, std::string_view bytes) {
+    const Pieces field = formation_field(row);
+    if (!field.split()) return image.write(field.position(), bytes);
+    image.write(field[0].position, left(bytes, static_cast<std::size_t>(field[0].bytes)));
+    image.write(field[1].position, right(bytes, static_cast<std::size_t>(field[1].bytes)));
+}
+
+std::string_view role_label(std::uint8_t role) {
+    const auto place = static_cast<std::size_t>(role - first_role_code);
+    return role >= first_role_code && place < role_labels.size() ? role_labels[place] : unknown_role_label;
 }
 
 std::string_view role_label(std::string_view code) {

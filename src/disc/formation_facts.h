@@ -58,7 +58,4 @@ inline constexpr std::array<ModuleRow, 16> module_rows{{
 inline constexpr UserOffset FormationBase = user_offset_of(2303701);
 inline constexpr ImagePos default_team_formation = 2306857;
 
-/// The record of a row 0..86 of the list of 87 teams.
-Pieces formation_field(int row);
-
 }  // namespace kalco

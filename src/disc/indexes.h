@@ -85,6 +85,9 @@ constexpr bool has_roster(Team team) {
 constexpr bool is_club(Team team) {
     return team >= first_club_team && team < default_list;
 }
+constexpr bool is_nation(TeamRow row) {
+    return row.value() >= 0 && row.value() < nation_count;
+}
 constexpr bool is_club(TeamRow row) {
     return row.value() >= nation_count && row < default_team_row;
 }

@@ -7,15 +7,23 @@
 #include "disc/codec/hextext.h"
 #include "disc/roster.h"
 #include "disc/runtime_error.h"
-#include "disc/teams.h"
 
 namespace kalco {
 namespace {
 
 constexpr std::size_t fields_in_word = 6;
-constexpr std::size_t words_in_record = 4;
 constexpr int field_bits = 5;
+constexpr std::uint32_t field_mask = 0x1F;
 constexpr std::size_t word_digits_count = 8;
+
+/// The last word holds the 23rd player in its fifth field and has no sixth one.
+constexpr std::size_t fields_of_word(std::size_t word) {
+    return word + 1 < StoredNumbers::words ? fields_in_word : fields_in_word - 1;
+}
+
+std::uint8_t byte_at(std::string_view record, std::size_t place) {
+    return place < record.size() ? static_cast<std::uint8_t>(record[place]) : 0;
+}
 
 std::string little_endian(std::uint32_t word) {
     std::string bytes;
@@ -25,14 +33,61 @@ std::string little_endian(std::uint32_t word) {
 
 }  // namespace
 
-Pieces number_field(int row) {
-    if (row == default_row) return Piece{default_team_numbers, club_number_bytes};
-    if (row < first_club_row) return field_at(NationalNumberBase + national_number_bytes * row, national_number_bytes);
-    return field_at(ClubNumberBase + club_number_bytes * (row - first_club_row), club_number_bytes);
+Pieces number_field(TeamRow row) {
+    if (row == default_team_row) return Piece{default_team_numbers, club_number_bytes};
+    if (const auto club = club_of(row)) {
+        return field_at(ClubNumberBase + club_number_bytes * club->value(), club_number_bytes);
+    }
+    return field_at(NationalNumberBase + national_number_bytes * row.value(), national_number_bytes);
+}
+
+StoredNumbers unpack_numbers(TeamRow row, std::string_view record) {
+    StoredNumbers stored;
+    if (!is_nation(row)) {
+        for (std::size_t player = 0; player < stored.numbers.size(); ++player) {
+            stored.numbers[player] = byte_at(record, player) + 1;
+        }
+        return stored;
+    }
+    for (std::size_t word = 0; word < StoredNumbers::words; ++word) {
+        std::uint32_t bits = 0;
+        for (std::size_t byte = 4; byte-- > 0;) bits = bits << 8 | byte_at(record, 4 * word + byte);
+        for (std::size_t field = 0; field < fields_of_word(word); ++field) {
+            stored.numbers[word * fields_in_word + field] = static_cast<int>(bits & field_mask) + 1;
+            bits >>= field_bits;
+        }
+        stored.spare[word] = bits;
+    }
+    return stored;
+}
+
+std::string pack_numbers(TeamRow row, const StoredNumbers& stored) {
+    std::string record;
+    if (!is_nation(row)) {
+        for (const int number : stored.numbers) record += static_cast<char>(number - 1);
+        return record;
+    }
+    for (std::size_t word = 0; word < StoredNumbers::words; ++word) {
+        std::uint32_t bits = stored.spare[word];
+        for (std::size_t field = fields_of_word(word); field-- > 0;) {
+            const auto number = static_cast<std::uint32_t>(stored.numbers[word * fields_in_word + field] - 1);
+            bits = bits << field_bits | (number & field_mask);
+        }
+        record += little_endian(bits);
+    }
+    return record;
+}
+
+StoredNumbers read_numbers(const Image& image, TeamRow row) {
+    return unpack_numbers(row, image.read(number_field(row)));
+}
+
+void write_numbers(Image& image, TeamRow row, std::string_view bytes) {
+    image.write(number_field(row), bytes);
 }
 
 std::string pack_national_numbers(const std::vector<std::string>& entries) {
-    std::array<std::uint32_t, words_in_record> words{};
+    std::array<std::uint32_t, StoredNumbers::words> words{};
     for (std::size_t player = 0; player < entries.size() && player < roster_players; ++player) {
         const std::int64_t number = number_of(entries[player]);
         if (number < 1 || number > most_national_number) throw RuntimeError(error::resource_not_found);
@@ -75,8 +130,8 @@ void NUM_SHIRT_DEC_12(std::string_view word, std::size_t first, bool sixth_field
 std::vector<std::string> decode_national_numbers(std::string_view record) {
     const std::string digits = hex_digits(record);
     std::vector<std::string> entries(roster_players);
-    for (std::size_t word = 0; word < words_in_record; ++word) {
-        const bool last = word + 1 == words_in_record;
+    for (std::size_t word = 0; word < StoredNumbers::words; ++word) {
+        const bool last = word + 1 == StoredNumbers::words;
         NUM_SHIRT_DEC_12(std::string_view(digits).substr(word * word_digits_count, word_digits_count),
                          word * fields_in_word, !last, entries);
     }

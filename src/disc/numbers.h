@@ -1,10 +1,13 @@
 #pragma once
 
+#include <array>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "disc/image/position.h"
+#include "disc/image/image.h"
+#include "disc/indexes.h"
 
 /// Shirt numbers on the disc: 1..32 packed into four 32-bit words for a nation, one byte each for a club and for the
 /// default team. Both store the number minus 1.
@@ -21,8 +24,28 @@ inline constexpr UserOffset ClubNumberBase = user_offset_of(2014529);
 /// The default team's record stands before the clubs', with a byte between them that belongs to no record.
 inline constexpr ImagePos default_team_numbers = 2014505;
 
-/// The record of a row 0..86.
-Pieces number_field(int row);
+/// The record of a row: 16 bytes for a nation, 23 for the others.
+Pieces number_field(TeamRow row);
+
+/// The numbers as they are stored: 1..32 in a nation's record, 1..256 in the others.
+struct StoredNumbers {
+    static constexpr std::size_t words = 4;
+
+    std::array<int, club_number_bytes> numbers{};  ///< In roster order.
+    /// What the words of a nation's record hold above their fields: two bits in the first three, seven in the last one.
+    std::array<std::uint32_t, words> spare{};
+
+    friend bool operator==(const StoredNumbers&, const StoredNumbers&) = default;
+};
+
+/// By masks, nothing misread; missing bytes are 0.
+StoredNumbers unpack_numbers(TeamRow row, std::string_view record);
+/// The record, spare bits too. A number counts by the low bits of what is stored for it: 5 for a nation, else 8.
+std::string pack_numbers(TeamRow row, const StoredNumbers& stored);
+
+StoredNumbers read_numbers(const Image& image, TeamRow row);
+/// Writes the bytes over a row's record; as many as there are.
+void write_numbers(Image& image, TeamRow row, std::string_view bytes);
 
 /// The 32 digits of a national record for the numbers of 23 players in roster order. Error 326 at the first number
 /// outside 1..32, 13 for an entry that is no number.

@@ -29,59 +29,18 @@ inline constexpr std::size_t skill_count = 16;
 inline constexpr int lowest_skill = 12;
 inline constexpr int highest_skill = 19;
 
-/// A stretch of bits of one of the words (1 to 3), counted from bit 0.
+/// A stretch of bits of one of the words (1 to 3), counted from bit 0. `base` is what a stored 0 means.
 struct BitField {
     std::string_view name;
     int word;
     int bit;
     int width;
+    int base = 0;
 
     constexpr long long unit() const { return 1LL << bit; }
+    /// How many values it can hold.
+    constexpr int count() const { return 1 << width; }
 };
-
-inline constexpr BitField role_bits{"role", 1, 0, 3};
-inline constexpr BitField hair_style_bits{"hair style", 1, 4, 5};
-inline constexpr BitField hair_colour_bits{"hair colour", 1, 9, 3};
-inline constexpr BitField beard_style_bits{"beard style", 1, 13, 3};
-inline constexpr BitField beard_colour_bits{"beard colour", 1, 17, 3};
-inline constexpr BitField height_bits{"height, cm minus 148", 1, 20, 6};
-inline constexpr BitField number_bits{"number, minus 1", 1, 26, 5};
-inline constexpr BitField out_of_role_bits{"out of role", 1, 31, 1};
-inline constexpr BitField skin_bits{"skin colour", 2, 0, 2};
-inline constexpr BitField build_bits{"build", 2, 2, 3};
-inline constexpr BitField age_bits{"age, minus 15", 2, 5, 5};
-inline constexpr BitField boots_bits{"boot colour", 3, 27, 3};
-inline constexpr BitField foot_bits{"preferred foot", 3, 30, 2};
-inline constexpr std::array<BitField, 4> spare_bits{{
-    {"spare", 1, 3, 1},
-    {"spare", 1, 12, 1},
-    {"spare", 1, 16, 1},
-    {"spare", 2, 13, 1},
-}};
-
-/// By Skill.
-inline constexpr std::array<BitField, skill_count> skill_bits{{
-    {"attack", 2, 29, 3},
-    {"defence", 3, 0, 3},
-    {"balance", 2, 14, 3},
-    {"stamina", 2, 17, 3},
-    {"speed", 2, 23, 3},
-    {"acceleration", 2, 26, 3},
-    {"passing", 3, 9, 3},
-    {"shot power", 3, 3, 3},
-    {"shot accuracy", 3, 6, 3},
-    {"jump", 3, 18, 3},
-    {"heading", 3, 15, 3},
-    {"technique", 3, 12, 3},
-    {"dribbling", 2, 20, 3},
-    {"curve", 3, 21, 3},
-    {"positivity", 3, 24, 3},
-    {"reaction", 2, 10, 3},
-}};
-
-constexpr const BitField& bits_of(Skill skill) {
-    return skill_bits[static_cast<std::size_t>(skill)];
-}
 
 /// The editor's smallest height; a record stores heights from 148 on, 7 below it.
 inline constexpr int lowest_height = 155;
@@ -90,6 +49,88 @@ inline constexpr int lowest_stored_height = 148;
 inline constexpr int lowest_age = 15;
 inline constexpr int highest_age = 46;
 inline constexpr int highest_cost = 250;
+
+inline constexpr BitField role_bits{"role", 1, 0, 3};
+inline constexpr BitField hair_style_bits{"hair_style", 1, 4, 5};
+inline constexpr BitField hair_colour_bits{"hair_colour", 1, 9, 3};
+inline constexpr BitField beard_style_bits{"beard_style", 1, 13, 3};
+inline constexpr BitField beard_colour_bits{"beard_colour", 1, 17, 3};
+inline constexpr BitField height_bits{"height", 1, 20, 6, lowest_stored_height};
+inline constexpr BitField number_bits{"number", 1, 26, 5, 1};
+inline constexpr BitField out_of_role_bits{"out_of_role", 1, 31, 1};
+inline constexpr BitField skin_bits{"skin", 2, 0, 2};
+inline constexpr BitField build_bits{"build", 2, 2, 3};
+inline constexpr BitField age_bits{"age", 2, 5, 5, lowest_age};
+inline constexpr BitField boots_bits{"boots", 3, 27, 3};
+inline constexpr BitField foot_bits{"foot", 3, 30, 2};
+inline constexpr std::size_t spare_count = 4;
+inline constexpr std::array<BitField, spare_count> spare_bits{{
+    {"spare_1_3", 1, 3, 1},
+    {"spare_1_12", 1, 12, 1},
+    {"spare_1_16", 1, 16, 1},
+    {"spare_2_13", 2, 13, 1},
+}};
+
+/// By Skill.
+inline constexpr std::array<BitField, skill_count> skill_bits{{
+    {"attack", 2, 29, 3, lowest_skill},
+    {"defence", 3, 0, 3, lowest_skill},
+    {"balance", 2, 14, 3, lowest_skill},
+    {"stamina", 2, 17, 3, lowest_skill},
+    {"speed", 2, 23, 3, lowest_skill},
+    {"acceleration", 2, 26, 3, lowest_skill},
+    {"passing", 3, 9, 3, lowest_skill},
+    {"shot_power", 3, 3, 3, lowest_skill},
+    {"shot_accuracy", 3, 6, 3, lowest_skill},
+    {"jump", 3, 18, 3, lowest_skill},
+    {"heading", 3, 15, 3, lowest_skill},
+    {"technique", 3, 12, 3, lowest_skill},
+    {"dribbling", 2, 20, 3, lowest_skill},
+    {"curve", 3, 21, 3, lowest_skill},
+    {"positivity", 3, 24, 3, lowest_skill},
+    {"reaction", 2, 10, 3, lowest_skill},
+}};
+
+constexpr const BitField& bits_of(Skill skill) {
+    return skill_bits[static_cast<std::size_t>(skill)];
+}
+
+/// All 96 bits, in the order of the words and of the bits from 0 up.
+inline constexpr std::array<BitField, 33> record_fields{{
+    role_bits,
+    spare_bits[0],
+    hair_style_bits,
+    hair_colour_bits,
+    spare_bits[1],
+    beard_style_bits,
+    spare_bits[2],
+    beard_colour_bits,
+    height_bits,
+    number_bits,
+    out_of_role_bits,
+    skin_bits,
+    build_bits,
+    age_bits,
+    bits_of(Skill::reaction),
+    spare_bits[3],
+    bits_of(Skill::balance),
+    bits_of(Skill::stamina),
+    bits_of(Skill::dribbling),
+    bits_of(Skill::speed),
+    bits_of(Skill::acceleration),
+    bits_of(Skill::attack),
+    bits_of(Skill::defence),
+    bits_of(Skill::shot_power),
+    bits_of(Skill::shot_accuracy),
+    bits_of(Skill::passing),
+    bits_of(Skill::technique),
+    bits_of(Skill::heading),
+    bits_of(Skill::jump),
+    bits_of(Skill::curve),
+    bits_of(Skill::positivity),
+    boots_bits,
+    foot_bits,
+}};
 
 /// By stored value. The list cboRuolo has them in another order.
 inline constexpr std::array<std::string_view, 8> role_texts{"Portiere",

@@ -152,8 +152,29 @@ std::int64_t attack_term(std::int64_t attack) {
 }
 
 std::int64_t foot_term(std::int64_t foot) {
-    if (foot == 1) return foot_bits.unit();
-    return foot == 2 ? -sign_bit : 0;
+    if (foot < 0 || foot >= foot_bits.count()) return 0;
+    const std::int64_t term = foot * foot_bits.unit();
+    return term >= sign_bit ? term - 2 * sign_bit : term;
+}
+
+std::int64_t spare_sum(const PlayerValues& values, int word) {
+    std::int64_t sum = 0;
+    for (std::size_t i = 0; i < spare_count; ++i) {
+        if (spare_bits[i].word == word) sum += values.spare[i] * spare_bits[i].unit();
+    }
+    return sum;
+}
+
+std::int64_t signed_word(std::uint32_t bits) {
+    return static_cast<std::int32_t>(bits);
+}
+
+std::uint32_t mask_of(const BitField& field) {
+    return static_cast<std::uint32_t>(field.count() - 1) << field.bit;
+}
+
+std::size_t place_of_word(const BitField& field) {
+    return static_cast<std::size_t>(field.word - 1);
 }
 
 }  // namespace
@@ -173,12 +194,76 @@ Words pack_player(const PlayerValues& values) {
         (values.number - 1) * number_bits.unit() - height_base + values.hair_style * hair_style_bits.unit() +
         values.hair_colour * hair_colour_bits.unit() + values.beard_style * beard_style_bits.unit() +
         values.beard_colour * beard_colour_bits.unit() + (values.height - lowest_height) * height_bits.unit() +
-        values.role + (values.in_role ? sign_bit : 0);
+        values.role + spare_sum(values, 1) + (values.in_role ? sign_bit : 0);
     const std::int64_t second = values.skin + values.build * build_bits.unit() +
-                                (values.age - lowest_age) * age_bits.unit() + skill_sum(values, 2) +
-                                attack_term(values.skill(Skill::attack));
+                                (values.age - lowest_age) * age_bits.unit() + spare_sum(values, 2) +
+                                skill_sum(values, 2) + attack_term(values.skill(Skill::attack));
     const std::int64_t third = values.boots * boots_bits.unit() + foot_term(values.foot) + skill_sum(values, 3);
     return {first, second, third};
+}
+
+PlayerValues unpack_player(const Words& words) {
+    const auto value = [&words](const BitField& field) { return field.base + stored_bits(words, field); };
+    PlayerValues values;
+    values.role = value(role_bits);
+    values.hair_style = value(hair_style_bits);
+    values.hair_colour = value(hair_colour_bits);
+    values.beard_style = value(beard_style_bits);
+    values.beard_colour = value(beard_colour_bits);
+    values.height = value(height_bits);
+    values.number = value(number_bits);
+    values.in_role = value(out_of_role_bits) == 0;
+    values.skin = value(skin_bits);
+    values.build = value(build_bits);
+    values.age = value(age_bits);
+    values.boots = value(boots_bits);
+    values.foot = value(foot_bits);
+    for (std::size_t i = 0; i < skill_count; ++i) values.skills[i] = value(skill_bits[i]);
+    for (std::size_t i = 0; i < spare_count; ++i) values.spare[i] = value(spare_bits[i]);
+    return values;
+}
+
+Words words_of_record(std::string_view record) {
+    Words words{};
+    for (std::size_t word = 0; word < words.size(); ++word) {
+        std::uint32_t bits = 0;
+        for (std::size_t byte = 4; byte-- > 0;) {
+            const std::size_t place = 4 * word + byte;
+            bits = bits << 8 | (place < record.size() ? static_cast<unsigned char>(record[place]) : 0);
+        }
+        words[word] = signed_word(bits);
+    }
+    return words;
+}
+
+std::string record_of_words(const Words& words) {
+    std::string record;
+    for (const std::int64_t word : words) {
+        const auto bits = static_cast<std::uint32_t>(word);
+        for (int shift = 0; shift < 32; shift += 8) record += static_cast<char>(bits >> shift & 0xFF);
+    }
+    return record;
+}
+
+int stored_bits(const Words& words, const BitField& field) {
+    const auto bits = static_cast<std::uint32_t>(words[place_of_word(field)]);
+    return static_cast<int>((bits & mask_of(field)) >> field.bit);
+}
+
+int stored_bits(std::string_view record, const BitField& field) {
+    return stored_bits(words_of_record(record), field);
+}
+
+void store_bits(Words& words, const BitField& field, int value) {
+    std::int64_t& word = words[place_of_word(field)];
+    const auto bits = static_cast<std::uint32_t>(word) & ~mask_of(field);
+    word = signed_word(bits | (static_cast<std::uint32_t>(value) << field.bit & mask_of(field)));
+}
+
+void store_bits(std::string& record, const BitField& field, int value) {
+    Words words = words_of_record(record);
+    store_bits(words, field, value);
+    record = record_of_words(words);
 }
 
 std::array<std::string, 3> groups_of_entry(std::string_view entry) {

@@ -8,11 +8,26 @@
 
 #include "disc/player_facts.h"
 
-/// Player records as values: between the three words and the texts of the editor's fields. No window is known here.
+/// Player records as values. Two readings lie side by side: what is stored (unpack_player, stored_bits; masks, nothing
+/// lost) and what the editor shows (decode_player).
 namespace kalco {
+
+inline constexpr int player_record_bytes = 12;
 
 /// The three words of a record as signed numbers.
 using Words = std::array<std::int64_t, 3>;
+
+/// The words of a record's 12 bytes in file order. Missing bytes count as 0.
+Words words_of_record(std::string_view record);
+/// The 12 bytes of three words: the low 32 bits of each, little-endian.
+std::string record_of_words(const Words& words);
+
+/// What the field holds, from 0 up, without its base.
+int stored_bits(const Words& words, const BitField& field);
+int stored_bits(std::string_view record, const BitField& field);
+/// Stores the low bits of the value in the field and leaves all others alone.
+void store_bits(Words& words, const BitField& field, int value);
+void store_bits(std::string& record, const BitField& field, int value);
 
 /// What the decoder finds, as the texts of the fields. Where it skips or does not reach a field, that is unset and the
 /// editor keeps what it showed.
@@ -33,20 +48,28 @@ struct DecodedPlayer {
 /// Decodes by repeated division, not by masking: a bit that clean data never sets shows in the fields below it.
 DecodedPlayer decode_player(const Words& words);
 
-/// What the packer sums up: values of the tables, 0 for a text that no table knows.
+/// The values of a record's fields: places in the tables (0 for a text that no table knows), and numbers with their
+/// base.
 struct PlayerValues {
     std::int64_t role = 0, hair_style = 0, hair_colour = 0, beard_style = 0, beard_colour = 0;
     std::int64_t height = lowest_height, number = 1;
     bool in_role = true;  ///< The field "out of role" reads "No".
-    std::int64_t skin = 0, build = 0, age = lowest_age, boots = 0, foot = 0;
+    std::int64_t skin = 0, build = 0, age = lowest_age, boots = 0;
+    std::int64_t foot = 0;  ///< Both bits: 3.
     std::array<std::int64_t, skill_count> skills{12, 12, 12, 12, 12, 12, 12, 12, 12, 12, 12, 12, 12, 12, 12, 12};
+    std::array<std::int64_t, spare_count> spare{};  ///< By spare_bits; the editor always writes 0.
 
     std::int64_t& skill(Skill which) { return skills[static_cast<std::size_t>(which)]; }
     std::int64_t skill(Skill which) const { return skills[static_cast<std::size_t>(which)]; }
+
+    friend bool operator==(const PlayerValues&, const PlayerValues&) = default;
 };
 
-/// Sums without checks: a value too large for its field runs into the next one. Spare bits come out clear.
+/// Sums without checks: a value too large for its field runs into the next one. An attack outside 12..19 counts as 12,
+/// a foot outside 0..3 as 0.
 Words pack_player(const PlayerValues& values);
+/// What is stored, by masks. pack_player gives the same words again, spare bits too.
+PlayerValues unpack_player(const Words& words);
 
 /// The place of a text in a table, 0 when the table does not know it.
 template <std::size_t n>

@@ -5,6 +5,7 @@
 
 #include "disc/image/image.h"
 #include "disc/image/position.h"
+#include "disc/player_record.h"
 #include "disc/teams.h"
 
 /// Where the players lie: the rosters of the 63 teams with players of their own, and the pool of those outside all
@@ -13,7 +14,6 @@ namespace kalco {
 
 inline constexpr int roster_players = 23;
 inline constexpr int player_name_bytes = 10;
-inline constexpr int player_record_bytes = 12;
 /// Players outside all rosters; the list of the Master League's default players shows them all.
 inline constexpr int pool_players = 462;
 

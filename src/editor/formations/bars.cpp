@@ -1,14 +1,14 @@
 #include "editor/formations/bars.h"
 
+#include "disc/bars.h"
 #include "disc/codec/hextext.h"
 #include "disc/codec/latin1.h"
-#include "disc/teams.h"
 
 namespace kalco {
 namespace {
 
-bool has_row(const frmKalco& form, int row) {
-    return row >= 0 && row < bar_teams && row < form.listApp2.count();
+bool has_row(const frmKalco& form, TeamRow row) {
+    return has_bars(row) && row.value() < form.listApp2.count();
 }
 
 void set_buttons(frmKalco& form, int bar, bool enabled) {
@@ -17,35 +17,30 @@ void set_buttons(frmKalco& form, int bar, bool enabled) {
 }
 
 void step_bar(frmKalco& form, int bar, int change) {
-    const int row = form.cboSeqSQ2.row();
+    const TeamRow row(form.cboSeqSQ2.row());
     if (!has_row(form, row)) return;
     form.pbFZ(bar).set_value(form.pbFZ(bar).value() + change);
     form.pbFZ(bar).set_caption(std::to_string(form.pbFZ(bar).value()));
     std::string digits;
     for (int i = 1; i <= bar_count; ++i) digits += '0' + hex_number(form.pbFZ(i).value());
-    form.listApp2.remove(row);
-    form.listApp2.insert(digits, row);
+    form.listApp2.remove(row.value());
+    form.listApp2.insert(digits, row.value());
 }
 
 }  // namespace
 
-Pieces bars_field(int row) {
-    return field_at(BarsBase + bar_count * team_of_row(row), bar_count);
-}
-
-void write_bars(Image& image, int row, std::string_view digits) {
-    image.write(bars_field(row), bytes_of_digits(digits));
-}
-
 void Read_Bar(frmKalco& form) {
-    for (int row = 0; row < bar_teams; ++row) form.listApp2.add(hex_digits(form.image.read(bars_field(row))));
+    for (const TeamRow row : every<TeamRow>()) {
+        if (has_bars(row)) form.listApp2.add(hex_digits(form.image.read(bars_field(row))));
+    }
 }
 
 void show_bars(frmKalco& form) {
-    const int row = form.cboSeqSQ2.row();
+    const TeamRow row(form.cboSeqSQ2.row());
     const bool shown = has_row(form, row);
     for (int i = 1; i <= bar_count; ++i) {
-        const int value = shown ? hex_pair(mid(form.listApp2.item(row), static_cast<std::size_t>(2 * i - 1), 2)) : 0;
+        const int value =
+            shown ? hex_pair(mid(form.listApp2.item(row.value()), static_cast<std::size_t>(2 * i - 1), 2)) : 0;
         form.pbFZ(i).set_value(value);
         form.pbFZ(i).set_caption(shown ? std::to_string(value) : std::string());
         set_buttons(form, i, shown);
@@ -62,9 +57,9 @@ void cmdPiu_Click(frmKalco& form, int bar) {
 }
 
 void cmdSalva_Click(frmKalco& form) {
-    const int row = form.cboSeqSQ2.row();
+    const TeamRow row(form.cboSeqSQ2.row());
     if (!has_row(form, row)) return;
-    write_bars(form.image, row, form.listApp2.item(row));
+    write_bars(form.image, row, bytes_of_digits(form.listApp2.item(row.value())));
     form.inform("Salvataggio effettuato con successo");
     form.listApp2.clear();
     Read_Bar(form);

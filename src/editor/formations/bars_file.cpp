@@ -1,10 +1,10 @@
 #include "editor/formations/bars_file.h"
 
+#include "disc/bars.h"
 #include "disc/codec/decimal.h"
 #include "disc/codec/hextext.h"
 #include "disc/codec/latin1.h"
-#include "disc/formation_facts.h"
-#include "disc/teams.h"
+#include "disc/formation.h"
 #include "editor/formations/bars.h"
 #include "editor/formations/pitch.h"
 #include "editor/window/side_file.h"
@@ -26,21 +26,20 @@ std::string bar_digits(const frmKalco& form) {
     return digits;
 }
 
-void import_bars(frmKalco& form, int row, std::string_view line) {
-    write_bars(form.image, row, left(line, 2 * bar_count));
+void import_bars(frmKalco& form, TeamRow row, std::string_view line) {
+    write_bars(form.image, row, bytes_of_digits(left(line, 2 * bar_count)));
     form.listApp2.clear();
     Read_Bar(form);
 }
 
-bool has_team(const frmKalco& form) {
-    const int row = form.cboSeqSQ2.row();
-    return row >= 0 && row != default_row;
+TeamRow chosen_row(const frmKalco& form) {
+    return TeamRow(form.cboSeqSQ2.row());
 }
 
 }  // namespace
 
 void cmdExport_Click(frmKalco& form) {
-    if (!has_team(form)) return;
+    if (!has_bars(chosen_row(form))) return;
     make_side_directory(form.platform, directory::formations);
     const std::string path =
         side_file_path(form.platform, directory::formations, upper(form.txtSqHEX2.text()) + std::string(extension));
@@ -50,15 +49,15 @@ void cmdExport_Click(frmKalco& form) {
 }
 
 void cmdImport_Click(frmKalco& form) {
-    if (!has_team(form)) return;
-    const int row = form.cboSeqSQ2.row();
+    const TeamRow row = chosen_row(form);
+    if (!has_bars(row)) return;
     const std::string path = form.platform.open_dialog(filter, form.platform.program_directory());
     if (path.empty()) return;
     const std::string line = read_first_line(path);
     const Answer answer = form.platform.message(question, Icon::warning, Buttons::yes_no_cancel);
     // Cancel is not a way out: it takes the formation alone.
     if (answer != Answer::cancel) import_bars(form, row, line);
-    if (answer != Answer::no) write_formation(form.image, row, right(line, 2 * formation_bytes));
+    if (answer != Answer::no) write_formation(form.image, row, bytes_of_digits(right(line, 2 * formation_bytes)));
     form.inform("Salvataggio effettuato con successo");
     form.reopen_image();
     cboSeqSQ2_Click(form);

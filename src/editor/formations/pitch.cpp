@@ -61,8 +61,8 @@ std::string default_team_player(const frmKalco& form) {
     return read_player_name(form.image, pool_name_field(DefaultSlots.at(index_of(form.SelectedMarker - 1))));
 }
 
-std::string national_player(const frmKalco& form, int team) {
-    const Pieces field = roster_name_field(team, form.SelectedMarker - 1);
+std::string national_player(const frmKalco& form, TeamRow nation) {
+    const Pieces field = roster_name_field(nation.value(), form.SelectedMarker - 1);
     const std::string name = read_player_name(form.image, field);
     // Only the name that is read in two pieces is shown with a blank in front.
     return field.split() ? ' ' + name : name;
@@ -71,7 +71,7 @@ std::string national_player(const frmKalco& form, int team) {
 }  // namespace
 
 void ProvaRead(frmKalco& form) {
-    const std::string digits = hex_digits(form.image.read(formation_field(form.cboSeqSQ2.row())));
+    const std::string digits = hex_digits(form.image.read(formation_field(TeamRow(form.cboSeqSQ2.row()))));
     constexpr std::size_t column = 2 * outfield_players;
     Elab_MOD(form, digits.substr(0, column));
     place_markers(form, std::string_view(digits).substr(column, column), std::string_view(digits).substr(2 * column));
@@ -95,12 +95,12 @@ std::string Invert_Mod(frmKalco& form) {
 }
 
 void Select_NAME(frmKalco& form) {
-    const int row = form.cboSeqSQ2.row();
+    const TeamRow row(form.cboSeqSQ2.row());
     if (is_nation(row)) {
         form.lblNameG.set_caption(national_player(form, row));
-    } else if (is_club_row(row)) {
+    } else if (is_club(row)) {
         raise(form.slots.NEW_NAME_ML);
-    } else if (row == default_row) {
+    } else if (row == default_team_row) {
         form.lblNameG.set_caption(default_team_player(form));
     }
 }
@@ -118,24 +118,15 @@ std::string formation_digits(frmKalco& form) {
     return roles + x + y;
 }
 
-void write_formation(Image& image, int row, std::string_view digits) {
-    const Pieces field = formation_field(row);
-    const std::string bytes = bytes_of_digits(digits);
-    if (!field.split()) return image.write(field.position(), bytes);
-    // A short text gives bytes of its middle to both pieces.
-    image.write(field[0].position, left(bytes, static_cast<std::size_t>(field[0].bytes)));
-    image.write(field[1].position, right(bytes, static_cast<std::size_t>(field[1].bytes)));
-}
-
 void cboSeqSQ2_Click(frmKalco& form) {
-    const int row = form.cboSeqSQ2.row();
-    if (row < 0) return;
-    form.SelectedMarker = row;
-    form.txtSqHEX2.set_text(read_full_width_name_of_row(form.image, row));
+    const TeamRow row(form.cboSeqSQ2.row());
+    if (!row.exists()) return;
+    form.SelectedMarker = row.value();
+    form.txtSqHEX2.set_text(read_full_width_name_of_row(form.image, row.value()));
     show_bars(form);
     drop_selection(form);
     form.Frame6.set_enabled(true);
-    form.fraImpExp.set_enabled(row != default_row);
+    form.fraImpExp.set_enabled(row != default_team_row);
     form.cboMod.set_text({});
     form.lblNameG.set_caption({});
     ProvaRead(form);
@@ -186,12 +177,12 @@ void cmdDown_Click(frmKalco& form) {
 }
 
 void cmdModifica_Click(frmKalco& form) {
-    const int row = form.cboSeqSQ2.row();
-    if (row < 0) return;
+    const TeamRow row(form.cboSeqSQ2.row());
+    if (!row.exists()) return;
     drop_selection(form);
     form.cboMod.set_text({});
     form.lblNameG.set_caption({});
-    write_formation(form.image, row, formation_digits(form));
+    write_formation(form.image, row, bytes_of_digits(formation_digits(form)));
     form.inform("Salvataggio effettuato con successo");
     form.reopen_image();
 }

@@ -29,8 +29,6 @@ void Select_NAME(frmKalco& form);
 /// The digits of the formation on the screen: roles, X, Y. Shorter by two for each label without a code. Leaves
 /// SelectedMarker at the last marker.
 std::string formation_digits(frmKalco& form);
-/// Writes the digits of a record over the row's; where it is split, the first 20 and the last 10 bytes of the digits.
-void write_formation(Image& image, int row, std::string_view digits);
 
 void cboSeqSQ2_Click(frmKalco& form);
 void lblGioc_MouseDown(frmKalco& form, int marker);

@@ -37,14 +37,14 @@ void cmdExpKick_Click(frmKalco& form) {
 }
 
 void cmdImpKick_Click(frmKalco& form) {
-    const int row = form.cboSquadra.row();
-    if (row < 0) return;
+    const TeamRow row(form.cboSquadra.row());
+    if (!row.exists()) return;
     const std::string path = form.platform.open_dialog(filter, form.platform.program_directory());
     if (path.empty()) return;
     std::string line;
     if (!with_file_route(form, [&] { line = read_first_line(path); })) return;
     // A longer line overwrites the records behind this one.
-    form.image.write(set_piece_field(row), bytes_of_digits(line));
+    write_set_pieces(form.image, row, bytes_of_digits(line));
     form.inform("Salvataggio effettuato con successo");
     form.reopen_image();
     cboSquadra_Click(form);

@@ -10,18 +10,18 @@ namespace {
 using OptionColumn = ControlArray<OptionButton>;
 
 /// In the order of the record's bytes.
-std::array<OptionColumn*, set_piece_columns> option_columns(frmKalco& form) {
+std::array<OptionColumn*, set_piece_bytes> option_columns(frmKalco& form) {
     return {&form.opCPC, &form.opCPL, &form.opCAD, &form.opCAS, &form.opRIG, &form.opCAP};
 }
 
-void show_names(frmKalco& form, int row) {
-    if (is_club_row(row)) {
+void show_names(frmKalco& form, TeamRow row) {
+    if (is_club(row)) {
         raise(form.slots.NEW_NAME_ML);
         return;
     }
     for (int player = 0; player < set_piece_rows; ++player) {
-        const Pieces field = row == default_row ? pool_name_field(DefaultSlots[static_cast<std::size_t>(player)])
-                                                : roster_name_field(row, player);
+        const Pieces field = row == default_team_row ? pool_name_field(DefaultSlots[static_cast<std::size_t>(player)])
+                                                     : roster_name_field(row.value(), player);
         form.txtNM(player + 1).set_text(' ' + read_player_name(form.image, field));
     }
 }
@@ -39,26 +39,21 @@ void show_pick(frmKalco& form, std::size_t column, std::string_view digits) {
 
 }  // namespace
 
-Pieces set_piece_field(int row) {
-    if (row == default_row) return Piece{default_team_set_pieces, set_piece_bytes};
-    return field_at(SetPieceBase + set_piece_bytes * team_of_row(row), set_piece_bytes);
-}
-
 std::string pick_digits(int row) {
     return row == set_piece_rows - 1 ? "0A" : '0' + std::to_string(row);
 }
 
 void CAP_KICK(frmKalco& form) {
     const std::string digits = form.txtHex.text();
-    for (std::size_t column = 0; column < set_piece_columns; ++column) {
+    for (std::size_t column = 0; column < set_piece_bytes; ++column) {
         show_pick(form, column, std::string_view(digits).substr(2 * column, 2));
     }
 }
 
 void cboSquadra_Click(frmKalco& form) {
-    const int row = form.cboSquadra.row();
-    if (row < 0) return;
-    form.listAtt.select(row);
+    const TeamRow row(form.cboSquadra.row());
+    if (!row.exists()) return;
+    form.listAtt.select(row.value());
     form.txtAtt.set_text(' ' + form.listAtt.text());
     show_names(form, row);
     form.txtHex.set_text(hex_digits(form.image.read(set_piece_field(row))));
@@ -67,12 +62,12 @@ void cboSquadra_Click(frmKalco& form) {
 }
 
 void cmdCrea_Click(frmKalco& form) {
-    const int row = form.cboSquadra.row();
-    if (row < 0) return;
+    const TeamRow row(form.cboSquadra.row());
+    if (!row.exists()) return;
     std::string digits;
     for (const std::string& pick : form.set_piece_picks) digits += pick;
     form.txtHex.set_text(digits);
-    form.image.write(set_piece_field(row), bytes_of_digits(digits));
+    write_set_pieces(form.image, row, bytes_of_digits(digits));
     form.inform("Salvataggio effettuato con successo");
     form.reopen_image();
 }

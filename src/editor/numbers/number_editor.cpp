@@ -21,12 +21,12 @@ constexpr std::string_view nation_prefix = "NAZ_";
 constexpr std::string_view other_prefix = "ML_";
 constexpr int entry_length = 2;
 
-std::string packed(int row, const std::vector<std::string>& entries) {
+std::string packed(TeamRow row, const std::vector<std::string>& entries) {
     return is_nation(row) ? pack_national_numbers(entries) : pack_club_numbers(entries);
 }
 
 void pack(frmKalco& form) {
-    if (is_nation(form.cboSQNum.row())) {
+    if (is_nation(TeamRow(form.cboSQNum.row()))) {
         NUM_SHIRT_HEX(form);
     } else {
         NUM_SHIRT_HEX_ML(form);
@@ -54,7 +54,7 @@ void select_number_text(frmKalco& form) {
     form.txtNumMod.select(0, entry_length);
 }
 
-std::vector<std::string> read_numbers(const frmKalco& form, int row) {
+std::vector<std::string> read_entries(const frmKalco& form, TeamRow row) {
     const std::string record = form.image.read(number_field(row));
     return is_nation(row) ? decode_national_numbers(record) : decode_club_numbers(record);
 }
@@ -63,8 +63,8 @@ bool has_number_without_cell(const std::vector<std::string>& entries) {
     return std::any_of(entries.begin(), entries.end(), [](const std::string& entry) { return entry.size() > 2; });
 }
 
-void show_names(frmKalco& form, int row) {
-    if (is_club_row(row)) {
+void show_names(frmKalco& form, TeamRow row) {
+    if (is_club(row)) {
         form.ListName.clear();
         raise(form.slots.NEW_NAME_ML);
     } else {
@@ -91,7 +91,7 @@ NumberChange change_number(std::vector<std::string> entries, int row, const std:
     return change;
 }
 
-bool can_be_packed(int row, const std::vector<std::string>& entries) {
+bool can_be_packed(TeamRow row, const std::vector<std::string>& entries) {
     try {
         packed(row, entries);
         return true;
@@ -136,19 +136,19 @@ void NAME_NATIONAL(frmKalco& form) {
 }
 
 void READ_NAMES(frmKalco& form) {
-    const int row = form.cboSQNum.row();
+    const TeamRow row(form.cboSQNum.row());
     form.ListName.clear();
     for (int player = 0; player < roster_players; ++player) {
-        const Pieces field = row == default_row ? pool_name_field(DefaultSlots[static_cast<std::size_t>(player)])
-                                                : roster_name_field(row, player);
+        const Pieces field = row == default_team_row ? pool_name_field(DefaultSlots[static_cast<std::size_t>(player)])
+                                                     : roster_name_field(row.value(), player);
         form.ListName.add(read_player_name(form.image, field));
     }
 }
 
 void cboSQNum_Click(frmKalco& form) {
-    const int row = form.cboSQNum.row();
-    if (row < 0) return;
-    const std::vector<std::string> numbers = read_numbers(form, row);
+    const TeamRow row(form.cboSQNum.row());
+    if (!row.exists()) return;
+    const std::vector<std::string> numbers = read_entries(form, row);
     if (has_number_without_cell(numbers)) {
         form.cboSQNum.select(-1);
         return;
@@ -195,10 +195,10 @@ void NUM_SHIRT_HEX_ML(frmKalco& form) {
 }
 
 void cmdModNum_Click(frmKalco& form) {
-    const int team = form.cboSQNum.row();
+    const TeamRow team(form.cboSQNum.row());
     const int row = form.ListName.row();
     const std::string number = form.txtNumMod.text();
-    if (team < 0 || row < 0 || row >= form.ListNum.count() || !is_number(number)) return;
+    if (!team.exists() || row < 0 || row >= form.ListNum.count() || !is_number(number)) return;
     form.ListNum.select(row);
     if (is_nation(team) && number_of(number) > most_national_number) {
         form.platform.message("Inserire un numero compreso fra 1 e 32", Icon::warning, Buttons::ok);
@@ -215,8 +215,7 @@ void cmdModNum_Click(frmKalco& form) {
 }
 
 void SAVE_Numeri(frmKalco& form) {
-    const Pieces field = number_field(form.cboSQNum.row());
-    form.image.write(field, bytes_of_digits(form.PackedNumberText));
+    write_numbers(form.image, TeamRow(form.cboSQNum.row()), bytes_of_digits(form.PackedNumberText));
 }
 
 void cmdSaveNum_Click(frmKalco& form) {
@@ -227,8 +226,8 @@ void cmdSaveNum_Click(frmKalco& form) {
 }
 
 void cmdExpNum_Click(frmKalco& form) {
-    const int row = form.cboSQNum.row();
-    if (row < 0) return;
+    const TeamRow row(form.cboSQNum.row());
+    if (!row.exists()) return;
     make_side_directory(form.platform, directory::numbers);
     std::string name(is_nation(row) ? nation_prefix : other_prefix);
     name += upper(form.txtSqSel.text());

@@ -7,6 +7,7 @@
 
 #include "disc/codec/letters.h"
 #include "disc/image/image.h"
+#include "disc/set_pieces.h"
 #include "editor/window/controls.h"
 #include "editor/window/platform.h"
 
@@ -39,7 +40,6 @@ struct Slots {
     Event cmdImp;
 };
 
-inline constexpr int set_piece_columns = 6;
 inline constexpr int first_marker = 2;
 inline constexpr int last_marker = 11;
 
@@ -266,7 +266,7 @@ public:
     std::string PackedNumberText;
 
     /// The current picks of the six set-piece columns, two digits each.
-    std::array<std::string, set_piece_columns> set_piece_picks;
+    std::array<std::string, set_piece_bytes> set_piece_picks;
 
     /// How the run ended; unset while it goes on.
     std::optional<Ending> ended;

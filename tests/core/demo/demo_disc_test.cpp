@@ -6,6 +6,7 @@
 #include <set>
 
 #include "ctl/demo/demo_image.h"
+#include "disc/bars.h"
 #include "disc/codec/hextext.h"
 #include "disc/codec/latin1.h"
 #include "disc/codec/letters.h"
@@ -14,9 +15,8 @@
 #include "disc/numbers.h"
 #include "disc/player_record.h"
 #include "disc/roster.h"
+#include "disc/set_pieces.h"
 #include "disc/teams.h"
-#include "editor/formations/bars.h"
-#include "editor/kickers/set_pieces.h"
 #include "support/memory_storage.h"
 
 namespace kalco {
@@ -197,7 +197,7 @@ TEST_F(DemoImage, VariesItsPlayers) {
 
 TEST_F(DemoImage, GivesEveryTeamAFormation) {
     for (int row = 0; row <= default_row; ++row) {
-        const std::string record = image.read(formation_field(row));
+        const std::string record = image.read(formation_field(TeamRow(row)));
         for (std::size_t k = 0; k < outfield_players; ++k) {
             EXPECT_NE(role_label(hex_digits(record.substr(k, 1))), unknown_role_label) << row;
             EXPECT_GT(byte_of(record[outfield_players + k]), 5) << row;
@@ -216,7 +216,7 @@ TEST_F(DemoImage, GivesEveryTeamAFormation) {
 TEST_F(DemoImage, PutsPlayersWhereTheirFormationWantsThem) {
     for (int team = 0; team < nation_count; ++team) {
         if (team == shifted_team) continue;
-        const std::string record = image.read(formation_field(team));
+        const std::string record = image.read(formation_field(TeamRow(team)));
         for (int k = 0; k < outfield_players; ++k) {
             const std::string_view label = role_label(hex_digits(record.substr(static_cast<std::size_t>(k), 1)));
             const auto role = decode_player(words_of(image.read(roster_record_field(team, k + 1)))).role.value();
@@ -228,14 +228,14 @@ TEST_F(DemoImage, PutsPlayersWhereTheirFormationWantsThem) {
 
 TEST_F(DemoImage, FillsTheBars) {
     for (int row = 0; row < bar_teams; ++row) {
-        for (const char bar : image.read(bars_field(row))) EXPECT_TRUE(bar >= 3 && bar <= 9) << row;
+        for (const char bar : image.read(bars_field(TeamRow(row)))) EXPECT_TRUE(bar >= 3 && bar <= 9) << row;
     }
     for (const char bar : image.read(2328759, 45)) EXPECT_TRUE(bar >= 3 && bar <= 9);
 }
 
 TEST_F(DemoImage, NumbersEveryTeamWithoutRepeats) {
     for (int row = 0; row <= default_row; ++row) {
-        const std::string record = image.read(number_field(row));
+        const std::string record = image.read(number_field(TeamRow(row)));
         const std::vector<std::string> entries =
             row < first_club_row ? decode_national_numbers(record) : decode_club_numbers(record);
         ASSERT_EQ(entries.size(), 23U);
@@ -254,7 +254,8 @@ TEST_F(DemoImage, NumbersEveryTeamWithoutRepeats) {
 
 TEST_F(DemoImage, AssignsSetPiecesToTheFirstEleven) {
     for (int row = 0; row <= default_row; ++row) {
-        for (const char pick : image.read(set_piece_field(row))) EXPECT_LT(byte_of(pick), set_piece_rows) << row;
+        for (const char pick : image.read(set_piece_field(TeamRow(row))))
+            EXPECT_LT(byte_of(pick), set_piece_rows) << row;
     }
     for (const char pick : image.read(2329629, set_piece_bytes)) EXPECT_LT(byte_of(pick), set_piece_rows);
 }

@@ -13,26 +13,27 @@ using formation_tests::places_of;
 using formation_tests::printed_formation;
 
 TEST(FormationField, LiesAtThePrintedPlaceForEveryRow) {
-    for (int row = 0; row <= 86; ++row) EXPECT_EQ(places_of(formation_field(row)), printed_formation(row)) << row;
+    for (int row = 0; row <= 86; ++row)
+        EXPECT_EQ(places_of(formation_field(TeamRow(row))), printed_formation(row)) << row;
 }
 
 TEST(FormationField, MeetsThePrintedEnds) {
-    EXPECT_EQ(formation_field(0).position(), 2303701);
-    EXPECT_EQ(formation_field(31).position(), 2304631);
-    EXPECT_EQ(formation_field(33).position(), 2304995);
-    EXPECT_EQ(formation_field(53).position(), 2305595);
-    EXPECT_EQ(formation_field(54).position(), 2305895);
-    EXPECT_EQ(formation_field(85).position(), 2306825);
-    EXPECT_EQ(formation_field(86).position(), 2306857);
+    EXPECT_EQ(formation_field(TeamRow(0)).position(), 2303701);
+    EXPECT_EQ(formation_field(TeamRow(31)).position(), 2304631);
+    EXPECT_EQ(formation_field(TeamRow(33)).position(), 2304995);
+    EXPECT_EQ(formation_field(TeamRow(53)).position(), 2305595);
+    EXPECT_EQ(formation_field(TeamRow(54)).position(), 2305895);
+    EXPECT_EQ(formation_field(TeamRow(85)).position(), 2306825);
+    EXPECT_EQ(formation_field(TeamRow(86)).position(), 2306857);
     // Nine records without a row lie before row 54, two bytes of nobody before row 86.
-    EXPECT_EQ(formation_field(54).position() - (formation_field(53).position() + 30), 270);
-    EXPECT_EQ(formation_field(86).position() - (formation_field(85).position() + 30), 2);
+    EXPECT_EQ(formation_field(TeamRow(54)).position() - (formation_field(TeamRow(53)).position() + 30), 270);
+    EXPECT_EQ(formation_field(TeamRow(86)).position() - (formation_field(TeamRow(85)).position() + 30), 2);
 }
 
 TEST(FormationField, NeverOverlapsAnother) {
     std::set<ImagePos> used;
     for (int row = 0; row <= 86; ++row) {
-        for (const Piece& piece : formation_field(row)) {
+        for (const Piece& piece : formation_field(TeamRow(row))) {
             for (int i = 0; i < piece.bytes; ++i) EXPECT_TRUE(used.insert(piece.position + i).second) << row;
         }
     }

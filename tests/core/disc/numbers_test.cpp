@@ -50,15 +50,15 @@ std::string packed_by_slots(const Entries& entries) {
 }
 
 TEST(NumberPlaces, AreThePrintedOnes) {
-    EXPECT_EQ(number_field(0), Pieces(Piece{404717, 16}));
-    EXPECT_EQ(number_field(53), Pieces(Piece{405565, 16}));
-    EXPECT_EQ(number_field(54), Pieces(Piece{2014529, 23}));
-    EXPECT_EQ(number_field(85), Pieces(Piece{2015242, 23}));
-    EXPECT_EQ(number_field(86), Pieces(Piece{2014505, 23}));
+    EXPECT_EQ(number_field(TeamRow(0)), Pieces(Piece{404717, 16}));
+    EXPECT_EQ(number_field(TeamRow(53)), Pieces(Piece{405565, 16}));
+    EXPECT_EQ(number_field(TeamRow(54)), Pieces(Piece{2014529, 23}));
+    EXPECT_EQ(number_field(TeamRow(85)), Pieces(Piece{2015242, 23}));
+    EXPECT_EQ(number_field(TeamRow(86)), Pieces(Piece{2014505, 23}));
     for (int row = 0; row < 87; ++row) {
         const ImagePos expected = row < 54 ? 404717 + 16 * row : row == 86 ? 2014505 : 2014529 + 23 * (row - 54);
-        EXPECT_EQ(number_field(row).position(), expected) << row;
-        EXPECT_FALSE(number_field(row).split()) << row;
+        EXPECT_EQ(number_field(TeamRow(row)).position(), expected) << row;
+        EXPECT_FALSE(number_field(TeamRow(row)).split()) << row;
     }
 }
 

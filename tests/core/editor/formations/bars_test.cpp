@@ -36,8 +36,8 @@ bool steps_enabled(const FormationTab& tab) {
 TEST(BarsField, LiesAtThePrintedPlaceForEveryRow) {
     std::set<ImagePos> used;
     for (int row = 0; row < 86; ++row) {
-        EXPECT_EQ(places_of(bars_field(row)), printed_bars(row)) << row;
-        for (const Piece& piece : bars_field(row)) {
+        EXPECT_EQ(places_of(bars_field(TeamRow(row))), printed_bars(row)) << row;
+        for (const Piece& piece : bars_field(TeamRow(row))) {
             for (int i = 0; i < piece.bytes; ++i) EXPECT_TRUE(used.insert(piece.position + i).second) << row;
         }
     }
@@ -45,15 +45,15 @@ TEST(BarsField, LiesAtThePrintedPlaceForEveryRow) {
 }
 
 TEST(BarsField, MeetsThePrintedEnds) {
-    EXPECT_EQ(bars_field(0).position(), 2328185);
-    EXPECT_EQ(bars_field(2).position(), 2328195);
-    EXPECT_EQ(bars_field(3)[0], (Piece{2328200, 1}));
-    EXPECT_EQ(bars_field(3)[1], (Piece{2328505, 4}));
-    EXPECT_EQ(bars_field(4).position(), 2328509);
-    EXPECT_EQ(bars_field(53).position(), 2328754);
-    EXPECT_EQ(bars_field(54).position(), 2328804);
-    EXPECT_EQ(bars_field(85).position(), 2328959);
-    EXPECT_EQ(bars_field(54).position() - (bars_field(53).position() + 5), 45);
+    EXPECT_EQ(bars_field(TeamRow(0)).position(), 2328185);
+    EXPECT_EQ(bars_field(TeamRow(2)).position(), 2328195);
+    EXPECT_EQ(bars_field(TeamRow(3))[0], (Piece{2328200, 1}));
+    EXPECT_EQ(bars_field(TeamRow(3))[1], (Piece{2328505, 4}));
+    EXPECT_EQ(bars_field(TeamRow(4)).position(), 2328509);
+    EXPECT_EQ(bars_field(TeamRow(53)).position(), 2328754);
+    EXPECT_EQ(bars_field(TeamRow(54)).position(), 2328804);
+    EXPECT_EQ(bars_field(TeamRow(85)).position(), 2328959);
+    EXPECT_EQ(bars_field(TeamRow(54)).position() - (bars_field(TeamRow(53)).position() + 5), 45);
 }
 
 TEST(BarsEntry, ReadsEveryRowAndShowsNone) {

@@ -51,7 +51,7 @@ TEST(NumberTabChoice, ReadsTheRecordOfEveryRow) {
     for (int row = 0; row < 87; ++row) {
         numbers.push_back(rising_from(row < 54 ? 1 + row % 10 : 1 + row % 70));
         const std::string digits = row < 54 ? pack_national_numbers(numbers.back()) : pack_club_numbers(numbers.back());
-        test::put(image, number_field(row).position(), bytes_of_digits(digits));
+        test::put(image, number_field(TeamRow(row)).position(), bytes_of_digits(digits));
     }
     NumberTab tab(image);
     for (int row = 86; row >= 0; --row) {
@@ -87,8 +87,8 @@ TEST(NumberTabChoice, ATeamNameThatBeginsWithABlankByteEndsTheProgram) {
 
 TEST(NumberTabChoice, AClubWithANumberAbove99IsRefused) {
     std::string image = numbered_image();
-    test::put(image, number_field(60).position() + 7, "\x63");
-    test::put(image, number_field(61).position() + 7, "\x62");
+    test::put(image, number_field(TeamRow(60)).position() + 7, "\x63");
+    test::put(image, number_field(TeamRow(61)).position() + 7, "\x62");
     NumberTab tab(image);
     tab.choose(2);
     const Entries names = tab.form.ListName.items();
@@ -206,7 +206,7 @@ TEST(NumberChange, TheOwnNumberChangesNothingButIsPacked) {
 
 TEST(NumberChange, ADoubledOldNumberLeavesTheBoard) {
     std::string image = numbered_image();
-    test::put(image, number_field(54).position(), std::string("\x04\x04", 2));
+    test::put(image, number_field(TeamRow(54)).position(), std::string("\x04\x04", 2));
     NumberTab tab(image);
     tab.choose(54);
     tab.give(0, "77");
@@ -283,9 +283,9 @@ TEST(NumberSave, EveryRowWritesItsRecordAndNothingElse) {
         tab.click(tab.form.cmdSaveNum);
         EXPECT_EQ(tab.told(), (Entries{saved}));
         std::string expected = numbered_image();
-        const char first = expected[static_cast<std::size_t>(number_field(row).position() - 1)];
+        const char first = expected[static_cast<std::size_t>(number_field(TeamRow(row)).position() - 1)];
         const char low = row < 54 ? static_cast<char>((first & 0xE0) | 28) : static_cast<char>(28);
-        test::put(expected, number_field(row).position(), std::string(1, low));
+        test::put(expected, number_field(TeamRow(row)).position(), std::string(1, low));
         EXPECT_TRUE(test::same_image(tab.disc.bytes, expected)) << row;
         EXPECT_EQ(tab.disc.flushes, 1);
     }
@@ -334,7 +334,7 @@ TEST(NumberSave, AClubsPackingRunsPastANationsRecord) {
     tab.choose_player_of_tab(3);
     tab.click(tab.form.cmdSaveNum);
     std::string expected = numbered_image();
-    test::put(expected, number_field(10).position(), packed);
+    test::put(expected, number_field(TeamRow(10)).position(), packed);
     EXPECT_TRUE(test::same_image(tab.disc.bytes, expected));
 }
 

@@ -32,7 +32,7 @@ const std::string& numbered_image() {
         for (int row = 0; row < 87; ++row) {
             const std::string digits =
                 row < 54 ? pack_national_numbers(rising_from(1)) : pack_club_numbers(rising_from(31));
-            test::put(made, number_field(row).position(), bytes_of_digits(digits));
+            test::put(made, number_field(TeamRow(row)).position(), bytes_of_digits(digits));
         }
         return made;
     }();
@@ -41,7 +41,7 @@ const std::string& numbered_image() {
 
 std::string numbered_image(int row, const std::string& bytes) {
     std::string image = numbered_image();
-    test::put(image, number_field(row).position(), bytes);
+    test::put(image, number_field(TeamRow(row)).position(), bytes);
     return image;
 }
 
@@ -64,7 +64,7 @@ std::vector<int> NumberTab::cells_in_use() {
 }
 
 std::string NumberTab::record(int row) const {
-    const Pieces field = number_field(row);
+    const Pieces field = number_field(TeamRow(row));
     return disc.at(field.position(), static_cast<std::size_t>(field.bytes()));
 }
 

@@ -36,7 +36,7 @@ TEST(NumbersImport, RewritesTheRecord) {
     EXPECT_EQ(tab.form.ListNum.item(0), "23");
     EXPECT_EQ(tab.form.ListNum.item(22), "01");
     std::string expected = numbered_image();
-    test::put(expected, number_field(12).position(), bytes_of_digits(tab.form.PackedNumberText));
+    test::put(expected, number_field(TeamRow(12)).position(), bytes_of_digits(tab.form.PackedNumberText));
     EXPECT_TRUE(test::same_image(tab.disc.bytes, expected));
     EXPECT_EQ(tab.disc.writes, 23);
 }
