@@ -39,6 +39,8 @@ public:
         if (notes_ != nullptr) notes_->push_back({true, offset, std::string(bytes)});
         below_->write(offset, bytes);
     }
+    std::int64_t size() override { return below_->size(); }
+    void truncate(std::int64_t size) override { below_->truncate(size); }
     // The disk's own time is no part of what is compared.
     void flush() override {}
 

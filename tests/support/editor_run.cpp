@@ -7,17 +7,15 @@
 namespace kalco::test {
 namespace {
 
-/// Remembers the writes that reach the storage below it.
-class LoggedStorage final : public Storage {
+/// Fails at the flush when the run says so.
+class FailingFlush final : public Storage {
 public:
-    LoggedStorage(std::unique_ptr<Storage> below, EditorRun& run) : below_(std::move(below)), run_(run) {}
+    FailingFlush(std::unique_ptr<Storage> below, EditorRun& run) : below_(std::move(below)), run_(run) {}
 
     std::string read(std::int64_t offset, std::size_t bytes) override { return below_->read(offset, bytes); }
-    void write(std::int64_t offset, std::string_view bytes) override {
-        if (bytes.empty()) return;
-        below_->write(offset, bytes);
-        run_.log.push_back({offset + 1, std::string(bytes)});
-    }
+    void write(std::int64_t offset, std::string_view bytes) override { below_->write(offset, bytes); }
+    std::int64_t size() override { return below_->size(); }
+    void truncate(std::int64_t size) override { below_->truncate(size); }
     void flush() override {
         if (run_.flush_failure != 0) throw RuntimeError(run_.flush_failure);
         below_->flush();
@@ -39,8 +37,9 @@ void count_runs(Event& slot, int& count) {
 
 EditorRun::EditorRun(const std::string& image)
     : editor(platform, [this](const std::string& path) -> std::unique_ptr<Storage> {
-          return std::make_unique<LoggedStorage>(opener_of(disc)(path), *this);
+          return std::make_unique<FailingFlush>(opener_of(disc)(path), *this);
       }) {
+    form.image.add_observer(*this);
     disc.bytes = image;
     platform.home = home.path();
     platform.choices.push_back("disc.bin");
@@ -51,6 +50,10 @@ EditorRun::EditorRun(const std::string& image)
     user::start(form);
     NAMES_GIOC_NAZ = NAME_NO_CONTACT = CONTR_NAME_NC = 0;
     disc.flushes = 0;
+}
+
+void EditorRun::written(ImagePos position, std::string_view bytes) {
+    if (!bytes.empty()) log.push_back({position, std::string(bytes)});
 }
 
 void EditorRun::pick_text(ComboBox& combo, const std::string& text) {

@@ -17,7 +17,7 @@
 namespace kalco::test {
 
 /// The whole editor on an image in memory, started and driven as a user drives it.
-class EditorRun {
+class EditorRun : ImageObserver {
 public:
     struct Write {
         std::int64_t position;
@@ -37,7 +37,7 @@ public:
 
     /// The texts of the messages since the last call.
     std::vector<std::string> told();
-    /// The positions and bytes of the writes so far, empty ones left out.
+    /// The positions and bytes of the handlers' writes so far, empty ones left out.
     std::vector<Write> log;
     /// The error of the next flush, 0 for none.
     int flush_failure = 0;
@@ -53,6 +53,9 @@ public:
     int NAME_NO_CONTACT = 0;
     int CONTR_NAME_NC = 0;
     int NEW_NAME_ML = 0;
+
+private:
+    void written(ImagePos position, std::string_view bytes) override;
 };
 
 /// Compares two images byte for byte and tells the first positions that differ.

@@ -51,6 +51,8 @@ public:
         disc_.put(offset + 1, std::string(bytes));
     }
 
+    std::int64_t size() override { return static_cast<std::int64_t>(disc_.bytes.size()); }
+    void truncate(std::int64_t size) override { disc_.bytes.resize(static_cast<std::size_t>(size), '\0'); }
     void flush() override { ++disc_.flushes; }
 
 private:

@@ -3,18 +3,19 @@
 #include <algorithm>
 #include <utility>
 
+#include "disc/image/commit.h"
 #include "disc/runtime_error.h"
 
 namespace kalco {
 
 void Image::open(const std::string& path) {
     storage_ = opener_(path);
-    dirty_ = false;
+    discard();
 }
 
 void Image::close() {
     const std::unique_ptr<Storage> closing = std::exchange(storage_, nullptr);
-    if (closing && std::exchange(dirty_, false)) closing->flush();
+    if (closing) commit_to(*closing, {});
 }
 
 Storage& Image::storage() const {
@@ -22,8 +23,21 @@ Storage& Image::storage() const {
     return *storage_;
 }
 
+template <typename Steps>
+auto Image::guarded(Steps steps) const {
+    try {
+        return steps(storage());
+    } catch (...) {
+        buffer_.begin(0);
+        throw;
+    }
+}
+
 std::string Image::read(ImagePos position, int bytes) const {
-    return storage().read(position - 1, static_cast<std::size_t>(bytes));
+    std::string result =
+        guarded([&](Storage& below) { return below.read(position - 1, static_cast<std::size_t>(bytes)); });
+    if (!buffer_.empty()) buffer_.overlay(position - 1, result);
+    return result;
 }
 
 std::string Image::read(const Pieces& field) const {
@@ -33,9 +47,13 @@ std::string Image::read(const Pieces& field) const {
 }
 
 void Image::write(ImagePos position, std::string_view bytes) {
-    Storage& target = storage();
-    dirty_ = true;
-    target.write(position - 1, bytes);
+    guarded([&](Storage& below) {
+        if (bytes.empty()) return;
+        if (buffer_.empty()) buffer_.begin(below.size());
+        buffer_.write(position - 1, bytes,
+                      [&below](std::int64_t offset, std::size_t count) { return below.read(offset, count); });
+    });
+    for (ImageObserver* const observer : observers_) observer->written(position, bytes);
 }
 
 void Image::write(const Pieces& field, std::string_view bytes) {
@@ -49,6 +67,52 @@ void Image::write(const Pieces& field, std::string_view bytes) {
 
 void Image::clear(const Pieces& field) {
     for (const Piece& piece : field) write(piece.position, zero_bytes(static_cast<std::size_t>(piece.bytes)));
+}
+
+std::int64_t Image::length() const {
+    return guarded([this](Storage& below) { return buffer_.empty() ? below.size() : buffer_.length(); });
+}
+
+void Image::commit(std::string_view what) {
+    if (storage_) commit_to(*storage_, what);
+}
+
+void Image::discard() {
+    buffer_.begin(0);
+}
+
+bool Image::take_back(const Save& save) {
+    return exchange(save, true);
+}
+
+bool Image::make_again(const Save& save) {
+    return exchange(save, false);
+}
+
+bool Image::exchange(const Save& save, bool back) {
+    const auto from = back ? &SectorChange::after : &SectorChange::before;
+    const auto to = back ? &SectorChange::before : &SectorChange::after;
+    if (length() != (back ? save.length_after : save.length_before)) return false;
+    for (const SectorChange& change : save.sectors) {
+        if (read(change.position(), static_cast<int>((change.*from).size())) != change.*from) return false;
+    }
+    for (const SectorChange& change : save.sectors) {
+        std::string whole = change.*to;
+        whole.resize(sector_bytes, '\0');
+        write(change.position(), whole);
+    }
+    if (!save.sectors.empty()) buffer_.set_length(back ? save.length_before : save.length_after);
+    return true;
+}
+
+void Image::commit_to(Storage& target, std::string_view what) {
+    if (buffer_.empty()) return;
+    const Save save = buffer_.save(what);
+    // Whatever comes of it, the save is over.
+    buffer_.begin(0);
+    if (save.empty()) return;
+    commit_save(target, save);
+    for (ImageObserver* const observer : observers_) observer->committed(save);
 }
 
 }  // namespace kalco

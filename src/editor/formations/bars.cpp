@@ -60,7 +60,7 @@ void cmdSalva_Click(frmKalco& form) {
     const TeamRow row(form.cboSeqSQ2.row());
     if (!has_row(form, row)) return;
     write_bars(form.image, row, bytes_of_digits(form.listApp2.item(row.value())));
-    form.inform("Salvataggio effettuato con successo");
+    form.tell_saved("Barre: " + form.cboSeqSQ2.text());
     form.listApp2.clear();
     Read_Bar(form);
     form.reopen_image();

@@ -32,6 +32,12 @@ void import_bars(frmKalco& form, TeamRow row, std::string_view line) {
     Read_Bar(form);
 }
 
+/// What the answer to the question takes from the file, in the words of the history.
+std::string imported_parts(Answer answer) {
+    if (answer == Answer::cancel) return "Importazione formazione: ";
+    return answer == Answer::no ? "Importazione barre: " : "Importazione formazione e barre: ";
+}
+
 TeamRow chosen_row(const frmKalco& form) {
     return TeamRow(form.cboSeqSQ2.row());
 }
@@ -58,7 +64,7 @@ void cmdImport_Click(frmKalco& form) {
     // Cancel is not a way out: it takes the formation alone.
     if (answer != Answer::cancel) import_bars(form, row, line);
     if (answer != Answer::no) write_formation(form.image, row, bytes_of_digits(right(line, 2 * formation_bytes)));
-    form.inform("Salvataggio effettuato con successo");
+    form.tell_saved(imported_parts(answer) + form.cboSeqSQ2.text());
     form.reopen_image();
     cboSeqSQ2_Click(form);
 }

@@ -183,7 +183,7 @@ void cmdModifica_Click(frmKalco& form) {
     form.cboMod.set_text({});
     form.lblNameG.set_caption({});
     write_formation(form.image, row, bytes_of_digits(formation_digits(form)));
-    form.inform("Salvataggio effettuato con successo");
+    form.tell_saved("Formazione: " + form.cboSeqSQ2.text());
     form.reopen_image();
 }
 

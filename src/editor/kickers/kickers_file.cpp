@@ -45,7 +45,7 @@ void cmdImpKick_Click(frmKalco& form) {
     if (!with_file_route(form, [&] { line = read_first_line(path); })) return;
     // A longer line overwrites the records behind this one.
     write_set_pieces(form.image, row, bytes_of_digits(line));
-    form.inform("Salvataggio effettuato con successo");
+    form.tell_saved("Importazione calci piazzati: " + form.cboSquadra.text());
     form.reopen_image();
     cboSquadra_Click(form);
 }

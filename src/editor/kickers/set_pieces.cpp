@@ -68,7 +68,7 @@ void cmdCrea_Click(frmKalco& form) {
     for (const std::string& pick : form.set_piece_picks) digits += pick;
     form.txtHex.set_text(digits);
     write_set_pieces(form.image, row, bytes_of_digits(digits));
-    form.inform("Salvataggio effettuato con successo");
+    form.tell_saved("Calci piazzati: " + form.cboSquadra.text());
     form.reopen_image();
 }
 

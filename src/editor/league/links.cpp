@@ -148,7 +148,7 @@ void cmdLink_Click(frmKalco& form) {
     }
     if (!form.txtNmLgML.text().empty() && !form.txtNmShML.text().empty()) SAVE_NAME_ML2(form);
     write_links(form.image, Club(form.listDefault.row()), links_to_team(Team(form.listSQLink.row())));
-    form.inform("Salvataggio effettuato con successo");
+    form.tell_saved("Link: " + form.listDefault.text() + ", " + form.listSQLink.text());
     form.reopen_image();
 }
 

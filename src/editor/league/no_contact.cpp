@@ -155,7 +155,7 @@ void cmdSaveNC_Click(frmKalco& form) {
     SAVE_NC(form);
     SAVE_NAME_ML(form);
     write_link_table(form.image, Club(club), form.Text7.text());
-    form.inform("Salvataggio effettuato con successo");
+    form.tell_saved("Link No-Contact: " + std::string(trim(form.cboSqNC.text())));
     form.reopen_image();
     cmdNew_Click(form);
     NAME_NO_CONTACT(form);

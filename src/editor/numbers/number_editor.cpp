@@ -123,9 +123,18 @@ bool import_numbers(frmKalco& form) {
         SAVE_Numeri(form);
         line.erase(0, entry_length);
     }
-    form.inform("Salvataggio effettuato con successo");
+    form.tell_saved("Importazione numeri: " + form.cboSQNum.text());
     form.reopen_image();
     return true;
+}
+
+/// What an import wrote before it stopped stays.
+void keep_what_was_written(frmKalco& form) {
+    try {
+        form.image.commit("Importazione numeri interrotta: " + form.cboSQNum.text());
+    } catch (const RuntimeError&) {
+        // The error route of the import covers this too.
+    }
 }
 
 }  // namespace
@@ -221,7 +230,7 @@ void SAVE_Numeri(frmKalco& form) {
 void cmdSaveNum_Click(frmKalco& form) {
     if (form.cboSQNum.row() < 0) return;
     SAVE_Numeri(form);
-    form.inform("Salvataggio effettuato con successo");
+    form.tell_saved("Numeri: " + form.cboSQNum.text());
     form.reopen_image();
 }
 
@@ -244,6 +253,7 @@ void cmdImpNum_Click(frmKalco& form) {
     try {
         again = import_numbers(form);
     } catch (const RuntimeError& failure) {
+        keep_what_was_written(form);
         if (failure.number() != error::resource_not_found) return;
         form.platform.message("Impossibile importare numeri superiori\r\n      al 32 per le squadre nazionali",
                               Icon::stop, Buttons::ok);

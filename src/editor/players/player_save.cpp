@@ -42,7 +42,7 @@ void save_player(frmKalco& form) {
     if (digits != without_blanks(form.listApp.item(row))) {
         write_player_record(form.image, player_record_field(team, row), digits);
     }
-    finish_save(form, team);
+    finish_save(form, team, "Giocatore: " + form.cboSeqSQ.text() + ", " + std::string(trim(form.txtName.text())));
     if (row > 0) form.listDat.select(row);
 }
 
@@ -61,8 +61,8 @@ void Costo_ML(frmKalco& form) {
     form.image.write(position, std::string(1, static_cast<char>(cost)));
 }
 
-void finish_save(frmKalco& form, int team) {
-    form.inform("Salvataggio effettuato con successo");
+void finish_save(frmKalco& form, int team, const std::string& what) {
+    form.tell_saved(what);
     form.reopen_image();
     select_team(form, team);
 }

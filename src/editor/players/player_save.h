@@ -26,6 +26,6 @@ void txtName_LostFocus(frmKalco& form);
 void txtML_LostFocus(frmKalco& form);
 
 /// The end that all saves of players share: the message, the reopening, the selection of the team again.
-void finish_save(frmKalco& form, int team);
+void finish_save(frmKalco& form, int team, const std::string& what);
 
 }  // namespace kalco

@@ -33,7 +33,7 @@ void write_imported_team(frmKalco& form, int team) {
     for (int i = 0; i <= roster_players; ++i) {
         write_player_record(form.image, imported_record_field(team, i), form.listApp.item(i));
     }
-    finish_save(form, team);
+    finish_save(form, team, "Importazione squadra: " + form.cboSeqSQ.text());
     form.listDat.select(0);
 }
 
@@ -65,7 +65,7 @@ void SAVE_IMP_ML(frmKalco& form) {
         const int row = DefaultSlots[static_cast<std::size_t>(place)];
         write_player_record(form.image, pool_record_field(row), form.listApp.item(place));
     }
-    finish_save(form, default_list_team);
+    finish_save(form, default_list_team, "Importazione squadra: " + std::string(default_team_name));
     if (selected > 0) form.listDat.select(selected);
     form.ImportPendingML = 0;
     raise(form.slots.NAME_NO_CONTACT);

@@ -91,7 +91,7 @@ void SAVE_NAME_SQ(frmKalco& form) {
 void cmdName_Click(frmKalco& form) {
     if (form.cboSeqSQ.row() < 0) return;
     SAVE_NAME_SQ(form);
-    form.inform("Nome squadra modificato");
+    form.tell_saved("Nomi squadra: " + form.cboSeqSQ.text(), "Nome squadra modificato");
     form.reopen_image();
 }
 

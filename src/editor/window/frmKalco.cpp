@@ -3,6 +3,18 @@
 #include <utility>
 
 namespace kalco {
+namespace {
+
+constexpr auto save_taken_back =
+    "Un salvataggio interrotto \xE8 stato annullato: l'immagine \xE8 come era prima di quel salvataggio";
+constexpr auto saves_refused =
+    "Accanto all'immagine c'\xE8 un file .kalco-journal che non \xE8 di un suo salvataggio, o che non si pu\xF2 "
+    "togliere: finch\xE9 resta l\xEC non si pu\xF2 salvare";
+constexpr auto journal_of_another_image =
+    "Il file .kalco-journal accanto all'immagine appartiene a un'altra immagine: niente \xE8 stato toccato e "
+    "l'immagine non viene aperta";
+
+}  // namespace
 
 frmKalco::frmKalco(Platform& services, StorageOpener opener)
     : SSTab1(registry, "SSTab1",
@@ -42,13 +54,31 @@ bool frmKalco::set_focus(Control& target) {
     return focused_ == &target;
 }
 
+void frmKalco::open_image() {
+    if (history_path_ != ImagePath) history.forget();
+    history_path_ = ImagePath;
+    try {
+        image.open(ImagePath);
+    } catch (const JournalOfAnotherImage&) {
+        platform.message(journal_of_another_image, Icon::stop, Buttons::ok);
+        throw;
+    }
+    if (image.found() == Beside::interrupted_save) inform(save_taken_back);
+    if (image.found() == Beside::foreign_file) platform.message(saves_refused, Icon::warning, Buttons::ok);
+}
+
 void frmKalco::reopen_image() {
     image.close();
-    image.open(ImagePath);
+    open_image();
 }
 
 void frmKalco::inform(const std::string& text) {
     platform.message(text, Icon::information, Buttons::ok);
+}
+
+void frmKalco::tell_saved(std::string_view what, const std::string& text) {
+    image.commit(what);
+    inform(text);
 }
 
 }  // namespace kalco

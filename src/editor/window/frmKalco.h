@@ -4,8 +4,10 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "disc/codec/letters.h"
+#include "disc/image/history.h"
 #include "disc/image/image.h"
 #include "disc/set_pieces.h"
 #include "editor/window/controls.h"
@@ -241,6 +243,7 @@ public:
 
     Platform& platform;
     Image image;  ///< Handle 1.
+    History history{image};
     std::string ImagePath;
     int ImportPending = 0;
     int ImportPendingML = 0;
@@ -278,12 +281,18 @@ public:
     /// Moves the focus: the loss of focus of the old control runs first. False when its handler took the focus back.
     bool set_focus(Control& target);
 
+    /// Opens ImagePath on handle 1, and tells the user what lay beside it.
+    void open_image();
     /// Closes handle 1 and opens ImagePath again: the flush that ends every save.
     void reopen_image();
     void inform(const std::string& text);
+    /// Commits what was written and tells of it. `what` names the save in a few words; the message comes only when the
+    /// bytes are on the disk.
+    void tell_saved(std::string_view what, const std::string& text = "Salvataggio effettuato con successo");
 
 private:
     Control* focused_ = nullptr;
+    std::string history_path_;  ///< The image that the history is about.
     /// Is to get the focus as soon as another control has lost it.
     Control* arriving_ = nullptr;
 };

@@ -20,12 +20,6 @@ void prepare_first_tab(frmKalco& form) {
     form.ImportPending = 0;
 }
 
-void read_lookup_lists(frmKalco& form) {
-    raise(form.slots.NAMES_GIOC_NAZ);
-    raise(form.slots.NAME_NO_CONTACT);
-    raise(form.slots.CONTR_NAME_NC);
-}
-
 /// The error route of start-up and cmdOpen.
 template <typename Steps>
 void with_opening_route(frmKalco& form, Steps steps) {
@@ -40,6 +34,12 @@ void with_opening_route(frmKalco& form, Steps steps) {
 
 }  // namespace
 
+void read_lookup_lists(frmKalco& form) {
+    raise(form.slots.NAMES_GIOC_NAZ);
+    raise(form.slots.NAME_NO_CONTACT);
+    raise(form.slots.CONTR_NAME_NC);
+}
+
 void Form_Load(frmKalco& form) {
     with_opening_route(form, [&form] {
         form.ImagePath = form.platform.open_dialog(image_filter, form.platform.program_directory());
@@ -47,7 +47,7 @@ void Form_Load(frmKalco& form) {
             form.ended = Ending::cancelled;
             return;
         }
-        form.image.open(form.ImagePath);
+        form.open_image();
         prepare_first_tab(form);
         read_lookup_lists(form);
     });

@@ -12,6 +12,8 @@ void connect_window(frmKalco& form);
 void Form_Load(frmKalco& form);
 void cmdOpen_Click(frmKalco& form);
 void cmdNew_Click(frmKalco& form);
+/// Fills the three lists of the start from the image.
+void read_lookup_lists(frmKalco& form);
 /// Empties the player fields without touching the other tabs.
 void Clear_Frame(frmKalco& form);
 

@@ -1,7 +1,9 @@
 #include "editor/window/user.h"
 
 #include <string>
+#include <string_view>
 
+#include "disc/runtime_error.h"
 #include "editor/window/shell.h"
 
 namespace kalco::user {
@@ -16,6 +18,29 @@ bool shown(const frmKalco& form, const Control& control) {
     if (!control.on_screen() || !control.visible()) return false;
     if (control.tab() != Place::outside_tabs && control.tab() != form.SSTab1.tab()) return false;
     return control.frame() == nullptr || shown(form, *control.frame());
+}
+
+/// Every action ends with a commit, also one that a handler's failure ends: what was written before it stays. (A
+/// failure of the image itself has discarded that.) Any other exception is no part of the editor's behaviour and
+/// leaves nothing.
+template <typename Steps>
+auto act(frmKalco& form, Steps steps) {
+    constexpr std::string_view unnamed = "Modifica";
+    try {
+        const auto outcome = steps();
+        form.image.commit(unnamed);
+        return outcome;
+    } catch (const RuntimeError&) {
+        try {
+            form.image.commit(unnamed);
+        } catch (const RuntimeError&) {
+            // The first failure is the one that is told.
+        }
+        throw;
+    } catch (...) {
+        form.image.discard();
+        throw;
+    }
 }
 
 void perform_click(Control& control) {
@@ -41,10 +66,41 @@ void perform_pick(Control& control, int row) {
     if (control.kind() == Kind::list_box) static_cast<ListBox&>(control).pick(row);
 }
 
+Outcome move_focus(frmKalco& form, Control& control) {
+    const Outcome reached = reach(form, control);
+    if (reached != Outcome::done || !control.takes_focus()) return reached;
+    return form.set_focus(control) ? Outcome::done : Outcome::focus_kept;
+}
+
+/// What is left of a text that is typed.
+std::string typed(const TextBox& box, std::string_view text) {
+    std::string result;
+    for (const char character : text) {
+        if (box.max_length() > 0 && result.size() >= static_cast<std::size_t>(box.max_length())) break;
+        if (accepts_key(box, character)) result += character;
+    }
+    return result;
+}
+
+/// Where the user chooses the team, or club, of the tab that is shown.
+ComboBox* team_choice(frmKalco& form) {
+    switch (form.SSTab1.tab()) {
+        case tab::players: return &form.cboSeqSQ;
+        case tab::league: return &form.cboSqNC;
+        case tab::kickers: return &form.cboSquadra;
+        case tab::formations: return &form.cboSeqSQ2;
+        case tab::numbers: return &form.cboSQNum;
+        default: return nullptr;
+    }
+}
+
 }  // namespace
 
 void start(frmKalco& form) {
-    Form_Load(form);
+    act(form, [&form] {
+        Form_Load(form);
+        return Outcome::done;
+    });
 }
 
 void close(frmKalco& form) {
@@ -58,34 +114,40 @@ Outcome reach(const frmKalco& form, const Control& control) {
 }
 
 Outcome focus(frmKalco& form, Control& control) {
-    const Outcome reached = reach(form, control);
-    if (reached != Outcome::done || !control.takes_focus()) return reached;
-    return form.set_focus(control) ? Outcome::done : Outcome::focus_kept;
+    return act(form, [&] { return move_focus(form, control); });
 }
 
 Outcome click(frmKalco& form, Control& control) {
-    const Outcome focused = focus(form, control);
-    if (focused == Outcome::done) perform_click(control);
-    return focused;
+    return act(form, [&] {
+        const Outcome focused = move_focus(form, control);
+        if (focused == Outcome::done) perform_click(control);
+        return focused;
+    });
 }
 
 Outcome pick(frmKalco& form, Control& control, int row) {
-    const Outcome focused = focus(form, control);
-    if (focused == Outcome::done) perform_pick(control, row);
-    return focused;
+    return act(form, [&] {
+        const Outcome focused = move_focus(form, control);
+        if (focused == Outcome::done) perform_pick(control, row);
+        return focused;
+    });
 }
 
 Outcome double_click(frmKalco& form, Control& control, int row) {
     const Outcome picked = pick(form, control, row);
     if (picked != Outcome::done || control.kind() != Kind::list_box) return picked;
-    raise(static_cast<ListBox&>(control).double_click);
-    return picked;
+    return act(form, [&] {
+        raise(static_cast<ListBox&>(control).double_click);
+        return picked;
+    });
 }
 
 Outcome press_again(frmKalco& form, ListBox& list) {
-    const Outcome reached = reach(form, list);
-    if (reached == Outcome::done) raise(list.double_click);
-    return reached;
+    return act(form, [&] {
+        const Outcome reached = reach(form, list);
+        if (reached == Outcome::done) raise(list.double_click);
+        return reached;
+    });
 }
 
 bool accepts_key(const TextBox& box, char character) {
@@ -93,28 +155,45 @@ bool accepts_key(const TextBox& box, char character) {
 }
 
 Outcome type(frmKalco& form, TextBox& box, std::string_view text) {
-    const Outcome focused = focus(form, box);
-    if (focused != Outcome::done) return focused;
-    std::string typed;
-    for (const char character : text) {
-        if (box.max_length() > 0 && typed.size() >= static_cast<std::size_t>(box.max_length())) break;
-        if (accepts_key(box, character)) typed += character;
-    }
-    box.set_text(typed);
-    return Outcome::done;
+    return act(form, [&] {
+        const Outcome focused = move_focus(form, box);
+        if (focused == Outcome::done) box.set_text(typed(box, text));
+        return focused;
+    });
 }
 
 Outcome edit(frmKalco& form, TextBox& box, std::string_view text) {
-    const Outcome focused = focus(form, box);
-    if (focused == Outcome::done && text != box.text()) box.set_text(text);
-    return focused;
+    return act(form, [&] {
+        const Outcome focused = move_focus(form, box);
+        if (focused == Outcome::done && text != box.text()) box.set_text(text);
+        return focused;
+    });
 }
 
 Outcome select_tab(frmKalco& form, int tab) {
     if (tab == form.SSTab1.tab()) return Outcome::done;
-    const Outcome focused = focus(form, form.SSTab1);
-    if (focused == Outcome::done) form.SSTab1.select(tab);
-    return focused;
+    return act(form, [&] {
+        const Outcome focused = move_focus(form, form.SSTab1);
+        if (focused == Outcome::done) form.SSTab1.select(tab);
+        return focused;
+    });
+}
+
+std::optional<std::string> undo(frmKalco& form) {
+    return act(form, [&form] { return form.history.undo(); });
+}
+
+std::optional<std::string> redo(frmKalco& form) {
+    return act(form, [&form] { return form.history.redo(); });
+}
+
+void read_anew(frmKalco& form) {
+    act(form, [&form] {
+        read_lookup_lists(form);
+        return Outcome::done;
+    });
+    ComboBox* const teams = team_choice(form);
+    if (teams != nullptr && teams->row() >= 0) pick(form, *teams, teams->row());
 }
 
 }  // namespace kalco::user

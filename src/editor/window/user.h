@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+#include <string>
 #include <string_view>
 
 #include "editor/window/frmKalco.h"
@@ -40,6 +42,14 @@ Outcome type(frmKalco& form, TextBox& box, std::string_view text);
 Outcome edit(frmKalco& form, TextBox& box, std::string_view text);
 /// Focus goes to SSTab1, then the tab's work. The tab that is shown already: nothing.
 Outcome select_tab(frmKalco& form, int tab);
+
+/// Takes back the last save of the run that still stands, or makes it again; gives what it was, nothing when there is
+/// none. read_anew() is to follow.
+std::optional<std::string> undo(frmKalco& form);
+std::optional<std::string> redo(frmKalco& form);
+/// After the image was changed by other means than the window's own: reads the three lists of the start anew and picks
+/// the team again that is chosen on the tab that is shown.
+void read_anew(frmKalco& form);
 
 /// What typing lets through: no control characters, and what the box's key filter takes.
 bool accepts_key(const TextBox& box, char character);

@@ -147,6 +147,8 @@ public:
 
     std::string read(std::int64_t, std::size_t bytes) override { return std::string(bytes, '\0'); }
     void write(std::int64_t, std::string_view) override {}
+    std::int64_t size() override { return 0; }
+    void truncate(std::int64_t) override {}
     void flush() override { throw RuntimeError(error::disk_full); }
 
 private:

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "disc/image/save.h"
+#include "disc/image/storage.h"
+
+namespace kalco {
+
+/// Brings a save to the disk. When anything on the way fails, the image is put back as it was and the failure is
+/// thrown.
+void commit_save(Storage& storage, const Save& save);
+
+}  // namespace kalco

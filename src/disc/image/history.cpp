@@ -1,0 +1,65 @@
+#include "disc/image/history.h"
+
+namespace kalco {
+namespace {
+
+std::size_t size_of(const Save& save) {
+    std::size_t bytes = sizeof(Save) + save.what.size();
+    for (const SectorChange& change : save.sectors) {
+        bytes += sizeof(SectorChange) + change.before.size() + change.after.size();
+    }
+    return bytes;
+}
+
+}  // namespace
+
+std::optional<std::string> History::undo() {
+    return undo_text() == nullptr ? std::nullopt : go(true);
+}
+
+std::optional<std::string> History::redo() {
+    return redo_text() == nullptr ? std::nullopt : go(false);
+}
+
+std::optional<std::string> History::go(bool back) {
+    const Save& save = saves_[back ? last() : last() + 1];
+    const bool held = back ? image_.take_back(save) : image_.make_again(save);
+    if (!held) {
+        forget();
+        return std::nullopt;
+    }
+    going_ = true;
+    try {
+        image_.commit((back ? "Annullato: " : "Ripetuto: ") + save.what);
+    } catch (...) {
+        going_ = false;
+        throw;
+    }
+    going_ = false;
+    back ? ++undone_ : --undone_;
+    announce();
+    return save.what;
+}
+
+void History::forget() {
+    saves_.clear();
+    undone_ = bytes_ = 0;
+    announce();
+}
+
+void History::committed(const Save& save) {
+    if (going_) return;
+    for (; undone_ > 0; --undone_) {
+        bytes_ -= size_of(saves_.back());
+        saves_.pop_back();
+    }
+    saves_.push_back(save);
+    bytes_ += size_of(save);
+    while (bytes_ > limit_) {
+        bytes_ -= size_of(saves_.front());
+        saves_.pop_front();
+    }
+    announce();
+}
+
+}  // namespace kalco
