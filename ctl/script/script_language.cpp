@@ -9,7 +9,7 @@
 namespace kalco::script {
 namespace {
 
-constexpr std::array<std::pair<std::string_view, Verb>, 11> verbs{{
+constexpr std::array<std::pair<std::string_view, Verb>, 13> verbs{{
     {"start", Verb::start},
     {"choose", Verb::choose},
     {"answer", Verb::answer},
@@ -19,6 +19,8 @@ constexpr std::array<std::pair<std::string_view, Verb>, 11> verbs{{
     {"click", Verb::click},
     {"type", Verb::type},
     {"focus", Verb::focus},
+    {"undo", Verb::undo},
+    {"redo", Verb::redo},
     {"show", Verb::show},
     {"close", Verb::close},
 }};
@@ -82,6 +84,8 @@ std::string_view without_trailing_blanks(std::string_view text) {
 void parse_operands(Action& action, Words& words) {
     switch (action.verb) {
         case Verb::start:
+        case Verb::undo:
+        case Verb::redo:
         case Verb::close: break;
         case Verb::choose:
             action.cancelled = without_trailing_blanks(words.rest()) == "cancel";

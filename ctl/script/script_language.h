@@ -15,7 +15,7 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-enum class Verb { start, choose, answer, tab, pick, double_click, click, type, focus, show, close };
+enum class Verb { start, choose, answer, tab, pick, double_click, click, type, focus, undo, redo, show, close };
 
 struct Action {
     Verb verb = Verb::start;

@@ -1,6 +1,7 @@
 #include "ctl/script/script_runner.h"
 
 #include <istream>
+#include <optional>
 #include <ostream>
 #include <string>
 
@@ -30,6 +31,8 @@ public:
             case Verb::click: return click(action);
             case Verb::type: return type(action);
             case Verb::focus: return focus(action);
+            case Verb::undo: return travel("undone", stage_.undo());
+            case Verb::redo: return travel("redone", stage_.redo());
             case Verb::show:
                 for (const std::string& name : action.names) show(name);
                 return;
@@ -122,6 +125,15 @@ private:
     void focus(const Action& action) {
         Control& target = control(action.control);
         if (reached(target)) stage_.focus(target);
+    }
+
+    /// `what` is the save that was taken back or made again, if there was one.
+    void travel(const char* name, const std::optional<std::string>& what) {
+        Json event;
+        event["event"] = name;
+        event["what"] = what ? json_text(*what) : Json();
+        print(event);
+        if (what) stage_.read_anew();
     }
 
     void show(const std::string& name) {

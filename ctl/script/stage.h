@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "ctl/script/json_lines.h"
@@ -21,6 +22,11 @@ public:
     virtual void double_click(Control& control, int row) = 0;
     virtual void type(TextBox& box, const std::string& text) = 0;
     virtual void select_tab(int tab) = 0;
+    /// What was taken back or made again; nothing when there is none.
+    virtual std::optional<std::string> undo() = 0;
+    virtual std::optional<std::string> redo() = 0;
+    /// Shows what the image holds after either.
+    virtual void read_anew() = 0;
     virtual void close() = 0;
     /// What a user sees of a control, in the form of control_state.
     virtual Json state(Control& control) = 0;
@@ -39,6 +45,9 @@ public:
     void double_click(Control& control, int row) override { user::double_click(form_, control, row); }
     void type(TextBox& box, const std::string& text) override { user::type(form_, box, text); }
     void select_tab(int tab) override { user::select_tab(form_, tab); }
+    std::optional<std::string> undo() override { return user::undo(form_); }
+    std::optional<std::string> redo() override { return user::redo(form_); }
+    void read_anew() override { user::read_anew(form_); }
     void close() override { user::close(form_); }
     Json state(Control& control) override { return control_state(control); }
 

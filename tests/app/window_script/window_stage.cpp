@@ -121,6 +121,25 @@ void WindowStage::select_tab(int tab) {
     settle();
 }
 
+std::optional<std::string> WindowStage::undo() {
+    std::optional<std::string> what;
+    window_.binder().act([&] { what = user::undo(form_); });
+    settle();
+    return what;
+}
+
+std::optional<std::string> WindowStage::redo() {
+    std::optional<std::string> what;
+    window_.binder().act([&] { what = user::redo(form_); });
+    settle();
+    return what;
+}
+
+void WindowStage::read_anew() {
+    window_.binder().act([this] { user::read_anew(form_); });
+    settle();
+}
+
 void WindowStage::close() {
     window_.close();
     settle();

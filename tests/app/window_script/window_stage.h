@@ -21,6 +21,9 @@ public:
     void double_click(Control& control, int row) override;
     void type(TextBox& box, const std::string& text) override;
     void select_tab(int tab) override;
+    std::optional<std::string> undo() override;
+    std::optional<std::string> redo() override;
+    void read_anew() override;
     void close() override;
     script::Json state(Control& control) override;
 
