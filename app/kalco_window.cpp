@@ -195,9 +195,9 @@ void KalcoWindow::refresh_header() {
 void KalcoWindow::refresh_players_tab() {
     Looks looks;
     looks.skin = form_.cboPelle.row();
-    looks.hair_style = qt_text(form_.cboCapelli.text());
+    looks.hair_style = form_.cboCapelli.text();
     looks.hair_colour = form_.cboColCap.row();
-    looks.beard_style = qt_text(form_.cboStlBar.text());
+    looks.beard_style = form_.cboStlBar.text();
     looks.beard_colour = form_.cboColBar.row();
     findChild<PortraitView*>(QStringLiteral("viewPortrait"))->show_looks(looks);
 }

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Writes every picture of Kalco: assets/pictures, assets/portrait, assets/kalco.svg, the resource file that lists
-them, and the palettes' header. Run it after a change in assets/drawing; what it writes is kept in the repository.
+"""Writes every picture of Kalco: assets/pictures with the resource file that lists them, assets/portrait,
+assets/kalco.svg and the palettes' header. Run it after a change in assets/drawing; what it writes is kept in the repository.
 """
 
 import sys
@@ -12,7 +12,7 @@ from drawing import beards, hair, head, palette, things  # noqa: E402
 from drawing.shape import svg  # noqa: E402
 
 ASSETS = Path(__file__).resolve().parent
-HEADER = ASSETS.parent / "app" / "portrait_palette.h"
+HEADER = ASSETS.parent / "src" / "work" / "portrait_palette.h"
 
 SMALL, LARGE, ICON = 64, 160, 128
 STYLE_PLACE = "translate(-7.2,0.4) scale(0.49)"  # from the tallest crest to the bust
@@ -45,8 +45,8 @@ def pictures():
     return out
 
 
-def layers():
-    """The layers of a portrait, to be drawn as card, hair back, head, beard, hair front."""
+def parts():
+    """The parts of a portrait, to be drawn as card, hair back, head, beard, hair front."""
     out = {"card": svg(LARGE, head.card(), defs=head.CARD_DEFS), "head": svg(LARGE, head.portrait_head())}
     for name, style in hair.STYLES.items():
         back, front = style()
@@ -54,12 +54,11 @@ def layers():
     return out | {f"beard-{name}": svg(LARGE, style()) for name, style in beards.STYLES.items()}
 
 
-def resources(folders):
-    out = ["<RCC>"]
-    for prefix, names in folders.items():
-        out.append(f'    <qresource prefix="/{prefix}">')
-        out += [f'        <file alias="{name}.svg">{prefix}/{name}.svg</file>' for name in names]
-        out.append("    </qresource>")
+def resources(names):
+    """The window's resources. The parts of the portrait are not among them: they are compiled into the core."""
+    out = ["<RCC>", '    <qresource prefix="/pictures">']
+    out += [f'        <file alias="{name}.svg">pictures/{name}.svg</file>' for name in names]
+    out += ["    </qresource>"]
     out += ['    <qresource prefix="/icon">', '        <file alias="kalco.svg">kalco.svg</file>', "    </qresource>"]
     return "\n".join([*out, "</RCC>", ""])
 
@@ -71,14 +70,14 @@ def write(path, text):
 
 def main():
     palette.check()
-    folders = {"pictures": pictures(), "portrait": layers()}
+    folders = {"pictures": pictures(), "portrait": parts()}
     for folder, drawn in folders.items():
         for old in (ASSETS / folder).glob("*.svg"):
             old.unlink()
         for name, text in drawn.items():
             write(ASSETS / folder / f"{name}.svg", text)
     write(ASSETS / "kalco.svg", svg(ICON, things.icon(), defs=things.ICON_DEFS))
-    write(ASSETS / "pictures.qrc", resources(folders))
+    write(ASSETS / "pictures.qrc", resources(folders["pictures"]))
     write(HEADER, palette.header())
 
 

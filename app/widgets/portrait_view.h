@@ -2,22 +2,12 @@
 
 #include <QWidget>
 #include <memory>
-#include <vector>
+
+#include "work/portrait.h"
 
 class QSvgRenderer;
 
 namespace kalco::app {
-
-/// A player's looks, as texts of the fields; an unknown or empty one leaves its part out.
-struct Looks {
-    int skin = -1;
-    QString hair_style;
-    int hair_colour = -1;
-    QString beard_style;
-    int beard_colour = -1;
-
-    bool operator==(const Looks&) const = default;
-};
 
 /// One face out of skin, hair and beard.
 class PortraitView : public QWidget {
@@ -36,10 +26,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void add_layer(const QString& name);
-
     Looks looks_;
-    std::vector<std::unique_ptr<QSvgRenderer>> layers_;
+    std::unique_ptr<QSvgRenderer> portrait_;
 };
 
 }  // namespace kalco::app

@@ -1,7 +1,7 @@
 """Every colour that a player's look can have, and the C++ header made of them.
 
-The first three tones are tokens: the layers of the portrait are drawn in them, and the window replaces each by the
-tone of the player before it renders. They are colours fit to be seen, so the small pictures of the styles use them
+The first three tones are tokens: the parts of the portrait are drawn in them, and a composed portrait has the tones of
+the player in their place. They are colours fit to be seen, so the small pictures of the styles use them
 unreplaced, as the neutral skin and the neutral hair.
 """
 
@@ -60,7 +60,7 @@ HEADER = """// Written by assets/make_pictures.py: change the palettes there.
 #include <array>
 #include <string_view>
 
-namespace kalco::app {{
+namespace kalco {{
 
 /// The tones of a skin, as "#rrggbb".
 struct SkinTones {{
@@ -72,13 +72,13 @@ struct HairTones {{
     std::string_view base, shade, light;
 }};
 
-/// The colours that the layers under :/portrait are drawn in. Each is replaced, as text, by the tone of the player
-/// before the layer is rendered. No token is a colour of a palette, so the order of replacing does not matter.
+/// The colours that the parts of a portrait are drawn in. A composed portrait has the tones of the player in their
+/// place. No token is a colour of a palette, so the order of replacing does not matter.
 {tokens}
 
 {palettes}
 
-}}  // namespace kalco::app
+}}  // namespace kalco
 """
 
 
@@ -92,9 +92,9 @@ def header():
 
     tokens = [("SkinTones", "skin_token", SKIN), ("HairTones", "hair_token", HAIR), ("HairTones", "beard_token", BEARD)]
     palettes = [
-        palette("The four skins, by the index of `cboPelle`.", "SkinTones", "skin_palette", SKINS),
-        palette("The eight hair colours, by the index of `cboColCap`.", "HairTones", "hair_palette", HAIRS),
-        palette("The seven beard colours, by the index of `cboColBar`.", "HairTones", "beard_palette", BEARDS),
+        palette("The four skins, by stored value.", "SkinTones", "skin_palette", SKINS),
+        palette("The eight hair colours, by stored value.", "HairTones", "hair_palette", HAIRS),
+        palette("The seven beard colours, by stored value.", "HairTones", "beard_palette", BEARDS),
     ]
     return HEADER.format(
         tokens="\n".join(f"inline constexpr {kind} {name}{tones(v)};" for kind, name, v in tokens),
