@@ -60,7 +60,7 @@ std::function<RowNote(int row)> pool_notes(const frmKalco& form) {
     return [&form, nations](int row) {
         RowNote note;
         if (row >= 0 && row < static_cast<int>(nations.size())) note.note = nations[static_cast<std::size_t>(row)];
-        note.muted = std::find(DefaultSlots.begin(), DefaultSlots.end(), row) != DefaultSlots.end();
+        note.muted = std::find(DefaultSlots.begin(), DefaultSlots.end(), PoolRow(row)) != DefaultSlots.end();
         const auto& picks = form.ListAppIDX.items();
         note.marked = std::find(picks.begin(), picks.end(), std::to_string(row)) != picks.end();
         if (note.muted) note.note += QStringLiteral(" · Default");

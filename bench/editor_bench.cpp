@@ -4,6 +4,7 @@
 #include "disc/codec/hextext.h"
 #include "disc/player_record.h"
 #include "disc/roster.h"
+#include "editor/players/linked_names.h"
 #include "editor/window/shell.h"
 
 namespace {
@@ -27,7 +28,7 @@ void choose_a_team(benchmark::State& state) {
 
 void choose_the_list_of_462(benchmark::State& state) {
     Desk desk;
-    desk.compare(state, [&desk] { user::pick(desk.form, desk.form.cboSeqSQ, default_list_team); });
+    desk.compare(state, [&desk] { user::pick(desk.form, desk.form.cboSeqSQ, default_list.value()); });
 }
 
 void show_a_player(benchmark::State& state) {
@@ -47,15 +48,17 @@ void save_a_player(benchmark::State& state) {
     });
 }
 
+constexpr Club club{6};
+
 void choose_a_club(benchmark::State& state) {
     Desk desk;
-    desk.compare(state, [&desk] { user::pick(desk.form, desk.form.cboSeqSQ, first_club + 6); });
+    desk.compare(state, [&desk] { user::pick(desk.form, desk.form.cboSeqSQ, team_of(club).value()); });
 }
 
 void resolve_the_links_of_a_club(benchmark::State& state) {
     Desk desk;
-    user::pick(desk.form, desk.form.cboSeqSQ, first_club + 6);
-    desk.compare(state, [&desk] { desk.form.slots.NEW_NAME_ML(); });
+    user::pick(desk.form, desk.form.cboSeqSQ, team_of(club).value());
+    desk.compare(state, [&desk] { benchmark::DoNotOptimize(NEW_NAME_ML(desk.form, club)); });
 }
 
 void choose_a_team_for_its_formation(benchmark::State& state) {

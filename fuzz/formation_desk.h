@@ -9,7 +9,6 @@
 
 #include "disc/bars.h"
 #include "disc/formation.h"
-#include "disc/teams.h"
 #include "editor/editor.h"
 #include "editor/formations/bars.h"
 #include "editor/window/user.h"

@@ -24,9 +24,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (size < 1) return 0;
     static fuzzing::FormationDesk desk;
     desk.begin();
-    const int row = data[0] % default_row;
+    const int row = data[0] % default_team_row.value();
     constexpr Answer answers[] = {Answer::yes, Answer::no, Answer::cancel};
-    const Answer answer = answers[data[0] / default_row];
+    const Answer answer = answers[data[0] / default_team_row.value()];
 
     const std::string path = (desk.home / "any.bfr").string();
     std::ofstream(path, std::ios::binary)

@@ -54,7 +54,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (size < actions_start) return 0;
     static fuzzing::FormationDesk desk;
     desk.begin();
-    const int row = data[0] % (default_row + 1);
+    const int row = data[0] % TeamRow::count;
     const Pieces field = formation_field(TeamRow(row));
     desk.form.image.write(field, {reinterpret_cast<const char*>(data) + record_start, formation_bytes});
     const std::string before = desk.tables();

@@ -2,7 +2,7 @@
 
 #include "ctl/demo/tables.h"
 #include "ctl/demo/volume_descriptor.h"
-#include "disc/teams.h"
+#include "disc/team_names.h"
 
 namespace kalco::demo {
 namespace {
@@ -17,7 +17,7 @@ std::uint32_t sector_of(ImagePos position) {
 }  // namespace
 
 DemoDisc make_demo_disc(std::uint64_t seed) {
-    DemoDisc disc(sector_of(Call_Name(0)[2]->position) + 1 + sectors_behind_the_tables);
+    DemoDisc disc(sector_of(name_field(Team(0), NamePlace::t3)->position()) + 1 + sectors_behind_the_tables);
     Random other_data(seed, "other data");
     disc.scatter(volume_descriptor_sector, other_data);  // the system area before it stays empty
     put_volume_descriptors(disc, seed);

@@ -12,9 +12,9 @@ namespace kalco::demo {
 namespace {
 
 /// By team of cboSeqSQ, without the default list.
-const Squad& squad_of(const World& world, int team) {
-    return is_club(team) ? world.clubs[static_cast<std::size_t>(team - first_club)].squad
-                         : world.squads[static_cast<std::size_t>(team)];
+const Squad& squad_of(const World& world, Team team) {
+    const auto club = club_of(team);
+    return club ? world.clubs[club->place()].squad : world.squads[team.place()];
 }
 
 std::string formation_of(const Squad& squad, Random& random) {
@@ -61,16 +61,14 @@ std::string set_pieces_of(const Squad& squad) {
 }  // namespace
 
 void put_links(DemoDisc& disc, const World& world) {
-    for (int number = 0; number < club_count; ++number) {
-        std::string digits;
-        for (const std::string& code : world.clubs[static_cast<std::size_t>(number)].codes) digits += code;
-        disc.put(link_table_field(kalco::Club(number)), bytes_of_digits(digits));
+    for (const Club club : every<Club>()) {
+        disc.put(link_table_field(club), bytes_of_links(world.clubs[club.place()].links));
     }
 }
 
 void put_formations(DemoDisc& disc, const World& world, Random& random) {
-    for (int team = 0; team <= last_club; ++team) {
-        disc.put(field_at(FormationBase + formation_bytes * team, formation_bytes),
+    for (Team team(0); team < default_list; ++team) {
+        disc.put(field_at(FormationBase + formation_bytes * team.value(), formation_bytes),
                  formation_of(squad_of(world, team), random));
     }
     disc.put(formation_field(default_team_row), formation_of(world.default_team, random));
@@ -79,34 +77,34 @@ void put_formations(DemoDisc& disc, const World& world, Random& random) {
 void put_bars(DemoDisc& disc, const World& world, Random& random) {
     constexpr int lowest = 3;
     constexpr int highest = 9;
-    for (int team = 0; team <= last_club; ++team) {
+    for (Team team(0); team < default_list; ++team) {
         std::string bars;
         for (int bar = 0; bar < bar_count; ++bar) {
             const int value = 4 + squad_of(world, team).strength + random.between(-1, 1);
             bars += static_cast<char>(std::clamp(value, lowest, highest));
         }
-        disc.put(field_at(BarsBase + bar_count * team, bar_count), bars);
+        disc.put(field_at(BarsBase + bar_count * team.value(), bar_count), bars);
     }
 }
 
 void put_numbers(DemoDisc& disc, const World& world) {
     for (const TeamRow row : every<TeamRow>()) {
-        const Squad& squad = row == default_team_row ? world.default_team : squad_of(world, team_of(row).value());
+        const Squad& squad = row == default_team_row ? world.default_team : squad_of(world, team_of(row));
         const bool nation = is_nation(row);
         const std::vector<std::string> entries = entries_of(squad);
         disc.put(number_field(row),
                  bytes_of_digits(nation ? pack_national_numbers(entries) : pack_club_numbers(entries)));
     }
-    for (int team = nation_count; team < roster_team_count; ++team) {
+    for (Team team(nation_count); has_roster(team); ++team) {
         const Squad& squad = squad_of(world, team);
-        disc.put(field_at(NationalNumberBase + national_number_bytes * team, national_number_bytes),
+        disc.put(field_at(NationalNumberBase + national_number_bytes * team.value(), national_number_bytes),
                  bytes_of_digits(pack_national_numbers(entries_of(squad))));
     }
 }
 
 void put_set_pieces(DemoDisc& disc, const World& world) {
-    for (int team = 0; team <= last_club; ++team) {
-        disc.put(field_at(SetPieceBase + set_piece_bytes * team, set_piece_bytes),
+    for (Team team(0); team < default_list; ++team) {
+        disc.put(field_at(SetPieceBase + set_piece_bytes * team.value(), set_piece_bytes),
                  set_pieces_of(squad_of(world, team)));
     }
     disc.put(set_piece_field(default_team_row), set_pieces_of(world.default_team));

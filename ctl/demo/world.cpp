@@ -66,14 +66,14 @@ void make_pool(World& world, Random& random) {
     team.module = module_named(default_team_module);
     team.numbers = make_numbers(highest_number, random);
     const Roles roles = squad_roles(line_up(*team.module), random);
-    for (const std::string& code : pool_codes()) {
-        const auto* const slot = std::find(DefaultSlots.begin(), DefaultSlots.end(), world.pool.size());
+    for (const PoolRow row : every<PoolRow>()) {
+        const auto* const slot = std::find(DefaultSlots.begin(), DefaultSlots.end(), row);
         const bool in_team = slot != DefaultSlots.end();
         const auto place = static_cast<std::size_t>(slot - DefaultSlots.begin());
         const Role role = in_team ? roles[place] : static_cast<Role>(random.below(static_cast<int>(role_texts.size())));
         const int number = in_team ? team.numbers[place] : random.between(1, highest_number);
         const int strength = in_team ? team.strength : random.between(0, top_strength);
-        world.pool.push_back(make_player(sound_of_country(nation_of_code(code)), role, strength, number, random));
+        world.pool.push_back(make_player(sound_of_country(code_of(row)->team), role, strength, number, random));
         if (in_team) team.players[place] = world.pool.back();
     }
 }

@@ -2,11 +2,11 @@
 
 #include <array>
 #include <cstdint>
-#include <string>
 #include <vector>
 
 #include "ctl/demo/players.h"
 #include "disc/formation_facts.h"
+#include "disc/links.h"
 
 namespace kalco::demo {
 
@@ -19,16 +19,16 @@ struct Squad {
 };
 
 /// A club plays with players who stand elsewhere.
-struct Club {
+struct LinkedSquad {
     Squad squad;
-    std::array<std::string, roster_players> codes;
+    Links links;
 };
 
 /// All that was invented: what the tables of the disc are filled from, so that they fit together.
 struct World {
     std::array<Squad, roster_team_count> squads;  ///< By team: nations, all-star teams, classic teams.
     std::vector<Player> pool;                     ///< The players outside all rosters, by row.
-    std::array<Club, club_count> clubs;
+    std::array<LinkedSquad, Club::count> clubs;
     Squad default_team;  ///< The default Master League team, whose players stand in the pool.
 };
 

@@ -72,6 +72,7 @@ inline constexpr int nation_count = 54;
 /// Teams with a roster of 23 of their own: nations, all-star and classic teams.
 inline constexpr int roster_team_count = 63;
 
+inline constexpr Team last_roster_team{roster_team_count - 1};
 inline constexpr Team first_club_team{roster_team_count};
 inline constexpr Team default_list{Team::count - 1};
 inline constexpr TeamRow default_team_row{TeamRow::count - 1};

@@ -1,10 +1,16 @@
 #include "disc/links.h"
 
-#include <string>
-
 #include "disc/codec/hextext.h"
 
 namespace kalco {
+
+void LinKML(TeamRow row, ImagePos& position1, ImagePos& position2) {
+    const auto club = club_of(row);
+    if (!club) return;
+    const Pieces field = link_table_field(*club);
+    position1 = field.position();
+    if (field.split()) position2 = field[1].position;
+}
 
 Links read_links(const Image& image, Club club) {
     const std::string bytes = image.read(link_table_field(club));
@@ -15,10 +21,14 @@ Links read_links(const Image& image, Club club) {
     return links;
 }
 
-void write_links(Image& image, Club club, const Links& links) {
+std::string bytes_of_links(const Links& links) {
     std::string bytes;
     for (const PlayerCode code : links) bytes += {static_cast<char>(code.team), static_cast<char>(code.number)};
-    image.write(link_table_field(club), bytes);
+    return bytes;
+}
+
+void write_links(Image& image, Club club, const Links& links) {
+    image.write(link_table_field(club), bytes_of_links(links));
 }
 
 void write_link_table(Image& image, Club club, std::string_view digits) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <string>
 #include <string_view>
 
 #include "disc/image/image.h"
@@ -20,8 +21,14 @@ constexpr Pieces link_table_field(Club club) {
     return field_at(LinkTableBase + link_table_bytes * club.value(), link_table_bytes);
 }
 
+/// The table's positions by the row of an 87-row list; the second one only where the table is split. Other rows leave
+/// both as they were.
+void LinKML(TeamRow row, ImagePos& position1, ImagePos& position2);
+
 using Links = std::array<PlayerCode, roster_players>;
 Links read_links(const Image& image, Club club);
+/// The table as it stands on the disc.
+std::string bytes_of_links(const Links& links);
 void write_links(Image& image, Club club, const Links& links);
 /// The same from digits, as the window's lists hold them: as many bytes as they give.
 void write_link_table(Image& image, Club club, std::string_view digits);

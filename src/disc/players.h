@@ -1,8 +1,11 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <variant>
+#include <vector>
 
 #include "disc/image/image.h"
 #include "disc/image/position.h"
@@ -11,14 +14,6 @@
 
 /// A player by his place, wherever he stands: his name, his record and his cost.
 namespace kalco {
-
-/// Place 0..22 in the roster of a team with players of its own.
-struct RosterPlace {
-    Team team;
-    int player = 0;
-
-    friend constexpr bool operator==(const RosterPlace&, const RosterPlace&) = default;
-};
 
 /// In a roster or in the pool. Clubs have no places: they are linked to these.
 using PlayerPlace = std::variant<RosterPlace, PoolRow>;
@@ -34,9 +29,20 @@ PlayerPlace place_of(Team team, int player);
 /// Player 0..22 of a row of the 87-row lists; the default team's stand in the pool. None for a club.
 std::optional<PlayerPlace> place_of(TeamRow row, int player);
 
-/// The name as the lists show it.
+/// A name as the lists show it: joined, trimmed of blanks, then cut at its first zero byte.
 std::string read_player_name(const Image& image, const PlayerPlace& place);
+/// The names of all rosters, team by team; those of the pool, row by row.
+std::vector<std::string> read_roster_names(const Image& image);
+std::vector<std::string> read_pool_names(const Image& image);
+
+/// Zeroes over the field, then the name without blanks around it.
+void write_player_name(Image& image, const PlayerPlace& place, std::string_view name);
+/// The bytes of an entry of hexadecimal digits, with or without blanks between them; as many as the entry has.
+void write_player_record(Image& image, const PlayerPlace& place, std::string_view entry);
+
 /// 0..255; none where there is no cost.
 std::optional<int> read_cost(const Image& image, const PlayerPlace& place);
+/// Nothing where there is no cost. Error 6 for a cost that is no byte.
+void write_cost(Image& image, const PlayerPlace& place, std::int64_t cost);
 
 }  // namespace kalco

@@ -1,55 +1,17 @@
 #pragma once
 
 #include <array>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "disc/image/image.h"
 #include "disc/image/position.h"
 #include "disc/indexes.h"
 
-/// The 96 teams and the places of their names in the image.
+/// The catalogue of the 96 teams: what each is called, and how much room the disc has for its names.
 namespace kalco {
 
-inline constexpr int team_count = Team::count;
-inline constexpr int first_club = roster_team_count;
-inline constexpr int club_count = Club::count;
-inline constexpr int last_club = first_club + club_count - 1;
-/// The list of the Master League's default players.
-inline constexpr int default_list_team = default_list.value();
 inline constexpr int name_table_count = 6;
-
-constexpr bool is_nation(int team) {
-    return team >= 0 && team < nation_count;
-}
-constexpr bool is_club(int team) {
-    return team >= first_club && team <= last_club;
-}
-
-/// Rows of the 87-row team lists: the nations, then the clubs, then the default team.
-inline constexpr int first_club_row = nation_count;
-inline constexpr int last_club_row = first_club_row + club_count - 1;
-inline constexpr int default_row = default_team_row.value();
-/// What the default team is called in the lists.
-inline constexpr auto default_team_name = "Squadra Default ML";
-
-constexpr bool is_club_row(int row) {
-    return row >= first_club_row && row <= last_club_row;
-}
-/// The team of a row of an 87-row list.
-constexpr int team_of_row(int row) {
-    return row < first_club_row ? row : row + (first_club - first_club_row);
-}
-
-/// A text entry of a fixed place: its position and how many bytes it holds.
-struct NameEntry {
-    ImagePos position = 0;
-    int length = 0;
-
-    friend constexpr bool operator==(const NameEntry&, const NameEntry&) = default;
-};
 
 /// One row of the catalogue. A length or position of 0 means that the team has no such entry.
 struct TeamFacts {
@@ -59,7 +21,7 @@ struct TeamFacts {
     std::array<int, name_table_count> name_lengths;  ///< T1 to T6, the greatest number of characters.
 };
 
-inline constexpr std::array<TeamFacts, team_count> team_facts{{
+inline constexpr std::array<TeamFacts, Team::count> team_facts{{
     {"Ireland", 2003981, 14, {7, 7, 7, 0, 7, 7}},
     {"Scotland", 2003965, 14, {7, 11, 11, 0, 11, 11}},
     {"Wales", 2003953, 10, {7, 7, 7, 0, 7, 7}},
@@ -158,38 +120,8 @@ inline constexpr std::array<TeamFacts, team_count> team_facts{{
     {"Giocatori ML", 0, 0, {0, 0, 0, 0, 0, 0}},
 }};
 
-/// The team whose full-width name crosses a sector end, and its two pieces.
-inline constexpr int split_full_width_team = 4;
-inline constexpr Pieces split_full_width_name{{2003621, 4}, {2003929, 6}};
-
-/// The team whose T2 entry crosses a sector end, and its two pieces.
-inline constexpr int split_t2_team = 5;
-inline constexpr Pieces split_t2_name{{4823669, 4}, {4823977, 3}};
-
-/// The entries of a team in T1 to T6; those that it does not have are unset. For the split T2 entry the position is a
-/// number that is no place in the table.
-using NameEntries = std::array<std::optional<NameEntry>, name_table_count>;
-NameEntries Call_Name(int team);
-
-/// The entry of the full-width name table; none for the split one, for the default list and beyond the teams.
-std::optional<NameEntry> Off_Name_HEX(int team);
-/// The same by the row of an 87-row list.
-std::optional<NameEntry> Off_NameII(int row);
-
-/// Short names: 3 bytes each, in falling position with rising index.
-constexpr ImagePos short_name_position(Team team) {
-    return 2005377 - 4 * (team.value() + 1);
-}
-constexpr ImagePos short_name_position(int team) {
-    return short_name_position(Team(team));
-}
-inline constexpr int short_name_bytes = 3;
-
-/// The T1 name as it stands in the image, up to its first zero byte; empty for a team without one.
-std::string read_table_name(const Image& image, int team);
-/// The full-width name of a row of an 87-row list, decoded in one walk also where it crosses a sector end; empty for
-/// the default team and for no row. Error 5 when the field begins with a byte 0x20.
-std::string read_full_width_name_of_row(const Image& image, int row);
+/// What the default team is called in the lists.
+inline constexpr std::string_view default_team_name = "Squadra Default ML";
 
 /// Row texts of the team lists: all 96, the 87 of the other tabs, the 32 clubs.
 std::vector<std::string> all_team_rows();

@@ -1,7 +1,6 @@
 #include "support/editor_run.h"
 
 #include <algorithm>
-#include <sstream>
 #include <utility>
 
 namespace kalco::test {
@@ -46,7 +45,6 @@ EditorRun::EditorRun(const std::string& image)
     count_runs(form.slots.NAMES_GIOC_NAZ, NAMES_GIOC_NAZ);
     count_runs(form.slots.NAME_NO_CONTACT, NAME_NO_CONTACT);
     count_runs(form.slots.CONTR_NAME_NC, CONTR_NAME_NC);
-    count_runs(form.slots.NEW_NAME_ML, NEW_NAME_ML);
     user::start(form);
     NAMES_GIOC_NAZ = NAME_NO_CONTACT = CONTR_NAME_NC = 0;
     disc.flushes = 0;
@@ -72,24 +70,6 @@ std::vector<std::string> EditorRun::told() {
     for (const FakePlatform::Message& message : platform.messages) texts.push_back(message.text);
     platform.messages.clear();
     return texts;
-}
-
-::testing::AssertionResult same_image(const std::string& actual, const std::string& expected) {
-    if (actual == expected) return ::testing::AssertionSuccess();
-    const auto positions = differences(expected, actual);
-    std::ostringstream text;
-    text << positions.size() << " bytes differ, at";
-    for (std::size_t i = 0; i < std::min<std::size_t>(positions.size(), 24); ++i) text << ' ' << positions[i];
-    return ::testing::AssertionFailure() << text.str();
-}
-
-int error_of(const std::function<void()>& steps) {
-    try {
-        steps();
-    } catch (const RuntimeError& failure) {
-        return failure.number();
-    }
-    return 0;
 }
 
 void expect_every_failing_write_to_stop(const std::function<void(EditorRun&)>& prepare,

@@ -12,6 +12,7 @@
 #include "support/fake_platform.h"
 #include "support/filled_disc.h"
 #include "support/memory_storage.h"
+#include "support/outcome.h"
 #include "support/temporary_home.h"
 
 namespace kalco::test {
@@ -52,17 +53,10 @@ public:
     int NAMES_GIOC_NAZ = 0;
     int NAME_NO_CONTACT = 0;
     int CONTR_NAME_NC = 0;
-    int NEW_NAME_ML = 0;
 
 private:
     void written(ImagePos position, std::string_view bytes) override;
 };
-
-/// Compares two images byte for byte and tells the first positions that differ.
-::testing::AssertionResult same_image(const std::string& actual, const std::string& expected);
-
-/// The number of the run-time error that leaves the steps, 0 for none.
-int error_of(const std::function<void()>& steps);
 
 /// Runs the steps again and again with the first, second, ... write failing: each time the error is told, nothing
 /// behind the failing write reaches the image, and no message of success is shown.

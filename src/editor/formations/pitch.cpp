@@ -3,10 +3,11 @@
 #include "disc/codec/hextext.h"
 #include "disc/codec/latin1.h"
 #include "disc/formation.h"
-#include "disc/roster.h"
+#include "disc/players.h"
 #include "disc/runtime_error.h"
-#include "disc/teams.h"
+#include "disc/team_names.h"
 #include "editor/formations/bars.h"
+#include "editor/players/linked_names.h"
 
 namespace kalco {
 namespace {
@@ -57,15 +58,15 @@ void move_selected(frmKalco& form, bool allowed, int x, int y) {
     marker.move(marker.left() + x * step_left, marker.top() + y * step_top);
 }
 
-std::string default_team_player(const frmKalco& form) {
-    return read_player_name(form.image, pool_name_field(DefaultSlots.at(index_of(form.SelectedMarker - 1))));
+std::string player_of_roster(const frmKalco& form, const PlayerPlace& place) {
+    const std::string name = read_player_name(form.image, place);
+    // Only the name that is read in two pieces is shown with a blank in front.
+    return player_name_field(place).split() ? ' ' + name : name;
 }
 
-std::string national_player(const frmKalco& form, TeamRow nation) {
-    const Pieces field = roster_name_field(nation.value(), form.SelectedMarker - 1);
-    const std::string name = read_player_name(form.image, field);
-    // Only the name that is read in two pieces is shown with a blank in front.
-    return field.split() ? ' ' + name : name;
+std::string linked_player(const frmKalco& form, Club club) {
+    const LinkedNames names = NEW_NAME_ML(form, club);
+    return ' ' + names.at(index_of(form.SelectedMarker - 1)).value_or(std::string(unknown_player));
 }
 
 }  // namespace
@@ -96,13 +97,10 @@ std::string Invert_Mod(frmKalco& form) {
 
 void Select_NAME(frmKalco& form) {
     const TeamRow row(form.cboSeqSQ2.row());
-    if (is_nation(row)) {
-        form.lblNameG.set_caption(national_player(form, row));
-    } else if (is_club(row)) {
-        raise(form.slots.NEW_NAME_ML);
-    } else if (row == default_team_row) {
-        form.lblNameG.set_caption(default_team_player(form));
-    }
+    if (!row.exists()) return;
+    const auto club = club_of(row);
+    form.lblNameG.set_caption(club ? linked_player(form, *club)
+                                   : player_of_roster(form, *place_of(row, form.SelectedMarker - 1)));
 }
 
 std::string formation_digits(frmKalco& form) {
@@ -122,7 +120,7 @@ void cboSeqSQ2_Click(frmKalco& form) {
     const TeamRow row(form.cboSeqSQ2.row());
     if (!row.exists()) return;
     form.SelectedMarker = row.value();
-    form.txtSqHEX2.set_text(read_full_width_name_of_row(form.image, row.value()));
+    form.txtSqHEX2.set_text(read_full_width_name(form.image, team_of(row)));
     show_bars(form);
     drop_selection(form);
     form.Frame6.set_enabled(true);

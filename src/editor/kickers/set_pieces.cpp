@@ -1,8 +1,9 @@
 #include "editor/kickers/set_pieces.h"
 
 #include "disc/codec/hextext.h"
-#include "disc/roster.h"
+#include "disc/players.h"
 #include "disc/teams.h"
+#include "editor/players/linked_names.h"
 
 namespace kalco {
 namespace {
@@ -14,15 +15,20 @@ std::array<OptionColumn*, set_piece_bytes> option_columns(frmKalco& form) {
     return {&form.opCPC, &form.opCPL, &form.opCAD, &form.opCAS, &form.opRIG, &form.opCAP};
 }
 
-void show_names(frmKalco& form, TeamRow row) {
-    if (is_club(row)) {
-        raise(form.slots.NEW_NAME_ML);
-        return;
+void show_linked_names(frmKalco& form, Club club) {
+    const LinkedNames names = NEW_NAME_ML(form, club);
+    int field = form.txtNM.first();
+    for (std::size_t slot = 0; slot < set_piece_rows; ++slot) {
+        // A slot without a name takes no field: the later names move up.
+        if (names[slot]) form.txtNM(field++).set_text(' ' + *names[slot]);
     }
+    for (; field <= form.txtNM.last(); ++field) form.txtNM(field).set_text(' ' + std::string(unknown_player));
+}
+
+void show_names(frmKalco& form, TeamRow row) {
+    if (const auto club = club_of(row)) return show_linked_names(form, *club);
     for (int player = 0; player < set_piece_rows; ++player) {
-        const Pieces field = row == default_team_row ? pool_name_field(DefaultSlots[static_cast<std::size_t>(player)])
-                                                     : roster_name_field(row.value(), player);
-        form.txtNM(player + 1).set_text(' ' + read_player_name(form.image, field));
+        form.txtNM(player + 1).set_text(' ' + read_player_name(form.image, *place_of(row, player)));
     }
 }
 

@@ -5,9 +5,9 @@
 #include "disc/codec/decimal.h"
 #include "disc/codec/latin1.h"
 #include "disc/links.h"
-#include "disc/player_codes.h"
-#include "disc/player_writing.h"
-#include "disc/roster.h"
+#include "disc/players.h"
+#include "disc/team_import.h"
+#include "disc/teams.h"
 #include "editor/league/club_names.h"
 #include "editor/league/links.h"
 #include "editor/window/shell.h"
@@ -18,19 +18,19 @@ namespace {
 constexpr std::string_view changed_mark = " *";
 
 /// The clubs of cboSqNC whose texts end in a blank: the first two and the last five.
-bool has_trailing_blank(std::size_t club) {
-    return club < 2 || club >= club_count - 5;
+bool has_trailing_blank(Club club) {
+    return club < Club(2) || club >= Club(Club::count - 5);
 }
 
 std::vector<std::string> club_combo_rows() {
     std::vector<std::string> rows = club_rows();
-    for (std::size_t club = 0; club < rows.size(); ++club) {
-        if (has_trailing_blank(club)) rows[club] += ' ';
+    for (const Club club : every<Club>()) {
+        if (has_trailing_blank(club)) rows[club.place()] += ' ';
     }
     return rows;
 }
 
-bool is_default_row(int row) {
+bool is_default_row(PoolRow row) {
     return std::find(DefaultSlots.begin(), DefaultSlots.end(), row) != DefaultSlots.end();
 }
 
@@ -65,14 +65,6 @@ void finish_picking(frmKalco& form) {
     form.cmdImpNC.set_enabled(true);
 }
 
-void write_pool_name(Image& image, int row, const std::string& name) {
-    const Pieces field = pool_name_field(row);
-    if (!field.split()) return write_player_name(image, field, name);
-    // Over the sector's end the name goes as it stands, with its blanks.
-    image.clear(field);
-    image.write(field, name);
-}
-
 /// Marks the rows that are not as they were when the names were last taken.
 void mark_changed_rows(frmKalco& form) {
     for (int row = 0; row < form.listNC.count(); ++row) {
@@ -85,10 +77,7 @@ void mark_changed_rows(frmKalco& form) {
 }  // namespace
 
 void NAME_NO_CONTACT(frmKalco& form) {
-    std::vector<std::string> names;
-    names.reserve(pool_players);
-    for (int row = 0; row < pool_players; ++row) names.push_back(read_player_name(form.image, pool_name_field(row)));
-    form.listNC.assign(std::move(names));
+    form.listNC.assign(read_pool_names(form.image));
 }
 
 void CONTR_NAME_NC(frmKalco& form) {
@@ -101,15 +90,13 @@ void NAZ_NC(frmKalco& form) {
 }
 
 void OFF_ML_NC(const frmKalco& form, ImagePos& position1, ImagePos& position2) {
-    LinKML(form.cboSqNC.row() + first_club_row, position1, position2);
+    LinKML(row_of(Club(form.cboSqNC.row())), position1, position2);
 }
 
 void SAVE_NC(frmKalco& form) {
-    for (int pick = 0; pick < form.ListAppIDX.count(); ++pick) {
-        const int row = static_cast<int>(number_of(form.ListAppIDX.item(pick)));
-        write_pool_name(form.image, row, form.listDat.item(pick));
-        write_player_record(form.image, pool_record_field(row), form.listApp.item(pick));
-    }
+    std::vector<PoolRow> rows;
+    for (const std::string& row : form.ListAppIDX.items()) rows.emplace_back(static_cast<int>(number_of(row)));
+    write_imported_pool_rows(form.image, rows, {form.listDat.items(), form.listApp.items()});
 }
 
 void cboSqNC_Click(frmKalco& form) {
@@ -118,8 +105,9 @@ void cboSqNC_Click(frmKalco& form) {
 }
 
 void listNC_Click(frmKalco& form) {
-    form.listNC.set_hint(is_default_row(form.listNC.row()) ? "Non vengono selezionati i giocatori della squadra Default"
-                                                           : "Doppio click per selezionare il giocatore");
+    form.listNC.set_hint(is_default_row(PoolRow(form.listNC.row()))
+                             ? "Non vengono selezionati i giocatori della squadra Default"
+                             : "Doppio click per selezionare il giocatore");
     NAZ_NC(form);
 }
 
@@ -131,7 +119,7 @@ void listNC_DblClick(frmKalco& form) {
                               Icon::warning, Buttons::ok);
         return;
     }
-    if (is_default_row(row) || form.listAppNameNC.count() >= roster_players) return;
+    if (is_default_row(PoolRow(row)) || form.listAppNameNC.count() >= roster_players) return;
     add_pick(form, row);
     if (form.listAppNameNC.count() == roster_players) finish_picking(form);
 }
@@ -150,16 +138,16 @@ void cmdImpNC_Click(frmKalco& form) {
 }
 
 void cmdSaveNC_Click(frmKalco& form) {
-    const int club = form.cboSqNC.row();
-    if (club < 0) return;
+    const Club club(form.cboSqNC.row());
+    if (!club.exists()) return;
     SAVE_NC(form);
     SAVE_NAME_ML(form);
-    write_link_table(form.image, Club(club), form.Text7.text());
+    write_link_table(form.image, club, form.Text7.text());
     form.tell_saved("Link No-Contact: " + std::string(trim(form.cboSqNC.text())));
     form.reopen_image();
     cmdNew_Click(form);
     NAME_NO_CONTACT(form);
-    form.cboSqNC.select(club);
+    form.cboSqNC.select(club.value());
     empty_picks(form);
     form.listNC.set_enabled(false);
     form.cmdImpNC.set_enabled(false);

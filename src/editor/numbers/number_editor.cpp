@@ -7,9 +7,10 @@
 #include "disc/codec/hextext.h"
 #include "disc/codec/latin1.h"
 #include "disc/numbers.h"
-#include "disc/roster.h"
+#include "disc/players.h"
 #include "disc/runtime_error.h"
-#include "disc/teams.h"
+#include "disc/team_names.h"
+#include "editor/players/linked_names.h"
 #include "editor/window/side_file.h"
 
 namespace kalco {
@@ -64,9 +65,8 @@ bool has_number_without_cell(const std::vector<std::string>& entries) {
 }
 
 void show_names(frmKalco& form, TeamRow row) {
-    if (is_club(row)) {
-        form.ListName.clear();
-        raise(form.slots.NEW_NAME_ML);
+    if (const auto club = club_of(row)) {
+        form.ListName.assign(list_of_linked_names(form, *club));
     } else {
         READ_NAMES(form);
     }
@@ -141,16 +141,14 @@ void keep_what_was_written(frmKalco& form) {
 
 void NAME_NATIONAL(frmKalco& form) {
     form.txtSqSel.set_text({});
-    form.txtSqSel.set_text(read_full_width_name_of_row(form.image, form.cboSQNum.row()));
+    form.txtSqSel.set_text(read_full_width_name(form.image, team_of(TeamRow(form.cboSQNum.row()))));
 }
 
 void READ_NAMES(frmKalco& form) {
     const TeamRow row(form.cboSQNum.row());
     form.ListName.clear();
     for (int player = 0; player < roster_players; ++player) {
-        const Pieces field = row == default_team_row ? pool_name_field(DefaultSlots[static_cast<std::size_t>(player)])
-                                                     : roster_name_field(row.value(), player);
-        form.ListName.add(read_player_name(form.image, field));
+        form.ListName.add(read_player_name(form.image, *place_of(row, player)));
     }
 }
 

@@ -3,10 +3,7 @@
 #include "disc/codec/decimal.h"
 #include "disc/codec/hextext.h"
 #include "disc/codec/latin1.h"
-#include "disc/player_writing.h"
-#include "disc/roster.h"
-#include "disc/runtime_error.h"
-#include "disc/teams.h"
+#include "disc/players.h"
 #include "editor/players/player_fields.h"
 #include "editor/players/team_selection.h"
 #include "editor/teams/names.h"
@@ -16,7 +13,7 @@ namespace kalco {
 namespace {
 
 /// The last team whose single players the save button writes by itself; RoutLung goes on from there.
-constexpr int last_team_saved_here = 58;
+constexpr Team last_team_saved_here{58};
 constexpr int digits_limit = 3;
 
 bool is_digit(char character) {
@@ -33,14 +30,15 @@ void pack_bytes(frmKalco& form, const std::string& entry) {
 
 /// Name and record of the selected player, each only when it has changed; then the team is read back.
 void save_player(frmKalco& form) {
-    const int team = form.cboSeqSQ.row();
+    const Team team(form.cboSeqSQ.row());
     const int row = form.listDat.row();
+    const PlayerPlace place = place_of(team, row);
     if (form.txtName.text() != form.listDat.item(row)) {
-        write_player_name(form.image, player_name_field(team, row), form.txtName.text());
+        write_player_name(form.image, place, form.txtName.text());
     }
     const std::string digits = without_blanks(form.Text4.text() + form.Text5.text() + form.Text6.text());
     if (digits != without_blanks(form.listApp.item(row))) {
-        write_player_record(form.image, player_record_field(team, row), digits);
+        write_player_record(form.image, place, digits);
     }
     finish_save(form, team, "Giocatore: " + form.cboSeqSQ.text() + ", " + std::string(trim(form.txtName.text())));
     if (row > 0) form.listDat.select(row);
@@ -56,19 +54,17 @@ void step(TextBox& field, int change, int limit) {
 
 void Costo_ML(frmKalco& form) {
     const std::int64_t cost = number_of(form.txtML.text());
-    if (cost < 0 || cost > 255) throw RuntimeError(error::overflow);
-    const ImagePos position = cost_position(form.cboSeqSQ.row(), form.listDat.row());
-    form.image.write(position, std::string(1, static_cast<char>(cost)));
+    write_cost(form.image, place_of(Team(form.cboSeqSQ.row()), form.listDat.row()), cost);
 }
 
-void finish_save(frmKalco& form, int team, const std::string& what) {
+void finish_save(frmKalco& form, Team team, const std::string& what) {
     form.tell_saved(what);
     form.reopen_image();
     select_team(form, team);
 }
 
 void RoutLung(frmKalco& form) {
-    const bool pool = form.cboSeqSQ.row() == default_list_team;
+    const bool pool = Team(form.cboSeqSQ.row()) == default_list;
     save_player(form);
     if (!pool) return;
     raise(form.slots.NAME_NO_CONTACT);
@@ -81,9 +77,9 @@ void cmdSaveCar_GotFocus(frmKalco& form) {
 }
 
 void cmdSaveCar_Click(frmKalco& form) {
-    const int team = form.cboSeqSQ.row();
+    const Team team(form.cboSeqSQ.row());
     const int row = form.listDat.row();
-    if (team < 0) return;
+    if (!team.exists()) return;
     if (has_cost(team)) Costo_ML(form);
     if (form.ImportPending == 1) {
         SAVE_NAME_SQ(form);

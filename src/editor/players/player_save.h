@@ -1,5 +1,6 @@
 #pragma once
 
+#include "disc/indexes.h"
 #include "editor/window/frmKalco.h"
 
 /// The save button of the first tab and the small buttons of the player's fields.
@@ -26,6 +27,6 @@ void txtName_LostFocus(frmKalco& form);
 void txtML_LostFocus(frmKalco& form);
 
 /// The end that all saves of players share: the message, the reopening, the selection of the team again.
-void finish_save(frmKalco& form, int team, const std::string& what);
+void finish_save(frmKalco& form, Team team, const std::string& what);
 
 }  // namespace kalco

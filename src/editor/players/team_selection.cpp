@@ -3,60 +3,59 @@
 #include "disc/codec/hextext.h"
 #include "disc/codec/letters.h"
 #include "disc/player_record.h"
-#include "disc/roster.h"
+#include "disc/players.h"
 #include "disc/runtime_error.h"
-#include "disc/teams.h"
+#include "disc/team_names.h"
+#include "editor/players/linked_names.h"
 #include "editor/players/player_fields.h"
 #include "editor/window/shell.h"
 
 namespace kalco {
 namespace {
 
-void append_decoded(frmKalco& form, ImagePos position, int bytes) {
-    form.txtSqHEX.set_text(form.txtSqHEX.text() + decode_letters(form.image.read(position, bytes)));
-}
-
-void show_full_width_name(frmKalco& form, int team) {
-    if (team == default_list_team) return;
-    if (team == split_full_width_team) {
+void show_full_width_name(frmKalco& form, Team team) {
+    if (const auto field = name_field(team, NamePlace::full_width)) {
         // Each piece is walked by itself here.
-        for (const Piece& piece : split_full_width_name) append_decoded(form, piece.position, piece.bytes);
-    } else if (const auto entry = Off_Name_HEX(team)) {
-        append_decoded(form, entry->position, entry->length);
+        for (const Piece& piece : *field) {
+            const std::string bytes = form.image.read(piece.position, piece.bytes);
+            form.txtSqHEX.set_text(form.txtSqHEX.text() + decode_letters(bytes));
+        }
     }
     form.txtSQ.set_text(form.txtSqHEX.text());
 }
 
-void read_roster(frmKalco& form, int team) {
-    form.listDat.clear();
-    if (is_club(team)) {
-        raise(form.slots.NEW_NAME_ML);
+void read_roster(frmKalco& form, Team team) {
+    if (const auto club = club_of(team)) {
+        form.listDat.assign(list_of_linked_names(form, *club));
         return;
     }
+    form.listDat.clear();
     const int players = player_count(team);
-    for (int i = 0; i < players; ++i) form.listDat.add(read_player_name(form.image, player_name_field(team, i)));
+    for (int i = 0; i < players; ++i) form.listDat.add(read_player_name(form.image, place_of(team, i)));
     form.listApp.clear();
-    for (int i = 0; i < players; ++i) form.listApp.add(hex_line(form.image.read(player_record_field(team, i))));
+    for (int i = 0; i < players; ++i) {
+        form.listApp.add(hex_line(form.image.read(player_record_field(place_of(team, i)))));
+    }
 }
 
-void enable_by_class(frmKalco& form, int team) {
-    const bool default_list = team == default_list_team;
+void enable_by_class(frmKalco& form, Team team) {
+    const bool pool = team == default_list;
     const bool club = is_club(team);
-    form.cmdName.set_enabled(!default_list);
-    form.cmdImpML.set_enabled(default_list);
-    form.cmdExp.set_enabled(!club && !default_list);
+    form.cmdName.set_enabled(!pool);
+    form.cmdImpML.set_enabled(pool);
+    form.cmdExp.set_enabled(!club && !pool);
     form.cmdSaveCar.set_enabled(!club);
-    form.cmdImp.set_enabled(!club && !default_list);
+    form.cmdImp.set_enabled(!club && !pool);
     form.listDat.set_enabled(!club);
 }
 
-void finish_selection(frmKalco& form, int team) {
+void finish_selection(frmKalco& form, Team team) {
     if (is_club(team)) {
         Clear_Frame(form);
         form.txtSQ.set_text(form.txtSqHEX.text());
         return;
     }
-    if (team == default_list_team) {
+    if (team == default_list) {
         form.txtSqShort.set_text({});
         form.txtSQ.set_text({});
     }
@@ -73,7 +72,7 @@ void show_words(frmKalco& form, int row) {
     form.Text3.set_text(std::to_string(word_of_group(groups[2])));
 }
 
-void show_player(frmKalco& form, int team, int row) {
+void show_player(frmKalco& form, Team team, int row) {
     form.cmdSaveCar.set_enabled(true);
     for (TextBox* bytes : {&form.Text4, &form.Text5, &form.Text6}) bytes->set_text({});
     form.lblPos.set_caption(std::to_string(row + 1));
@@ -82,15 +81,13 @@ void show_player(frmKalco& form, int team, int row) {
     form.txtName.set_text(form.listDat.item(row));
     show_words(form, row);
     DecodePlayer(form);
-    if (!has_cost(team)) return;
-    const std::string cost = form.image.read(cost_position(team, row), 1);
-    form.txtML.set_text(std::to_string(static_cast<unsigned char>(cost[0])));
+    if (const auto cost = read_cost(form.image, place_of(team, row))) form.txtML.set_text(std::to_string(*cost));
 }
 
 }  // namespace
 
 void cboSeqSQ_Click(frmKalco& form) {
-    const int team = form.cboSeqSQ.row();
+    const Team team(form.cboSeqSQ.row());
     form.ImportPending = 0;
     form.Frame3.set_enabled(true);
     form.cmdName.set_enabled(true);
@@ -108,17 +105,17 @@ void cboSeqSQ_Click(frmKalco& form) {
     form.old_names = {form.txtSqHEX.text(), form.txtSqShort.text(), form.txtSqDec.text()};
 }
 
-void select_team(frmKalco& form, int team) {
-    if (form.cboSeqSQ.row() == team) {
+void select_team(frmKalco& form, Team team) {
+    if (form.cboSeqSQ.row() == team.value()) {
         cboSeqSQ_Click(form);
     } else {
-        form.cboSeqSQ.select(team);
+        form.cboSeqSQ.select(team.value());
     }
 }
 
 void listDat_Click(frmKalco& form) {
     try {
-        show_player(form, form.cboSeqSQ.row(), form.listDat.row());
+        show_player(form, Team(form.cboSeqSQ.row()), form.listDat.row());
     } catch (const RuntimeError& failure) {
         if (failure.number() != error::invalid_call) return;
         form.platform.message("Attenzione probabile errore nei parametri del giocatore", Icon::stop, Buttons::ok);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "disc/indexes.h"
 #include "editor/window/frmKalco.h"
 
 /// Choosing a team and a player on the first tab: the team's names and roster come out of the image into the window.
@@ -12,7 +13,7 @@ void connect_team_selection(frmKalco& form);
 void cboSeqSQ_Click(frmKalco& form);
 
 /// Sets cboSeqSQ to a team and runs its click, once, also when the team is selected already.
-void select_team(frmKalco& form, int team);
+void select_team(frmKalco& form, Team team);
 
 /// Shows the player of listDat. Error 5 is told in a message and others are silent; the fields stay as far as they had
 /// come.

@@ -16,8 +16,4 @@ void cmdName_Click(frmKalco& form);
 void txtSqHEX_Change(frmKalco& form);
 void txtSqShort_Change(frmKalco& form);
 
-/// How many letters the full-width name of a team takes: half its bytes, halves to the even neighbour; 0 (no limit)
-/// for a team without one.
-int full_width_letters(int team);
-
 }  // namespace kalco

@@ -31,11 +31,9 @@ enum class Ending { closed, cancelled, denied };
 /// Routines of subsystems that the window or a lower subsystem runs. Each is filled when its owner is connected; an
 /// empty one has nothing to do.
 struct Slots {
-    std::function<std::string(int team)> team_name;  ///< The T1 name of a team as it stands in the image.
     Event NAMES_GIOC_NAZ;
     Event NAME_NO_CONTACT;
     Event CONTR_NAME_NC;
-    Event NEW_NAME_ML;
     Event Read_Bar;
     Event SALV_IMP;
     Event SAVE_IMP_ML;

@@ -1,16 +1,12 @@
 #include "editor/window/tabs.h"
 
-#include "disc/teams.h"
+#include "disc/team_names.h"
 #include "editor/window/side_file.h"
 
 namespace kalco {
 namespace {
 
 constexpr int shirt_number_limit = 2;
-
-std::string team_name(const frmKalco& form, int team) {
-    return form.slots.team_name ? form.slots.team_name(team) : std::string();
-}
 
 void enter_players(frmKalco& form) {
     make_side_directory(form.platform, directory::export_teams);
@@ -20,17 +16,16 @@ void enter_players(frmKalco& form) {
 }
 
 void enter_league(frmKalco& form) {
-    for (int team = 0; team < roster_team_count; ++team) form.listSQLink.add(team_name(form, team));
+    for (int team = 0; team < roster_team_count; ++team) {
+        form.listSQLink.add(read_table_name(form.image, Team(team)));
+    }
     kicker_reset(form);
     number_reset(form);
 }
 
 void enter_kickers(frmKalco& form) {
-    for (int team = 0; team <= last_club; ++team) {
-        if (!row_of(Team(team))) continue;
-        form.listAtt.add(team_name(form, team));
-    }
-    form.listAtt.insert(default_team_name, default_row);
+    for (TeamRow row(0); row < default_team_row; ++row) form.listAtt.add(read_table_name(form.image, team_of(row)));
+    form.listAtt.insert(default_team_name, default_team_row.value());
     link_reset(form);
     number_reset(form);
     no_contact_reset(form);

@@ -133,42 +133,39 @@ TEST(DemoSeeds, KeepTheSectorsBehindTheDescriptors) {
 }
 
 TEST_F(DemoImage, NamesEveryTeamInEveryTable) {
-    for (int team = 0; team < team_count; ++team) {
-        const std::string row(team_facts[static_cast<std::size_t>(team)].row);
+    for (const Team team : every<Team>()) {
+        const std::string row(team_facts[team.place()].row);
         const std::string short_name = image.read(short_name_position(team), short_name_bytes + 1);
         EXPECT_EQ(short_name[0], upper(row)[0]);
         EXPECT_TRUE(std::all_of(short_name.begin(), short_name.end() - 1, [](char c) { return c >= 'A' && c <= 'Z'; }));
         EXPECT_EQ(short_name.back(), '\0');
-        const NameEntries entries = Call_Name(team);
-        for (std::size_t table = 0; table < entries.size(); ++table) {
-            if (!entries[table]) continue;
-            const bool split = table == 1 && team == split_t2_team;
-            const Pieces field = split ? split_t2_name : field_from(entries[table]->position, entries[table]->length);
-            const std::string name(until_zero(image.read(field)));
+        for (const NamePlace table : name_places) {
+            const auto field = name_field(team, table);
+            if (!field || table < NamePlace::t1) continue;
+            const std::string name(until_zero(image.read(*field)));
             EXPECT_FALSE(name.empty()) << row;
-            EXPECT_EQ(upper(row).substr(0, name.size()), name) << table;
-            const ImagePos behind = field[field.size() - 1].position + field[field.size() - 1].bytes;
-            EXPECT_EQ(image.read(behind, 1), std::string(1, '\0')) << row << " T" << table + 1;
+            EXPECT_EQ(upper(row).substr(0, name.size()), name);
+            const Piece& last = (*field)[field->size() - 1];
+            EXPECT_EQ(image.read(last.position + last.bytes, 1), std::string(1, '\0')) << row;
         }
-    }
-    for (int list_row = 0; list_row < default_row; ++list_row) {
-        const std::string name(trim(read_full_width_name_of_row(image, list_row)));
-        const std::string row(team_facts[static_cast<std::size_t>(team_of_row(list_row))].row);
+        if (team == default_list) continue;
+        const std::string name(trim(read_full_width_name(image, team)));
         EXPECT_GE(name.size(), 3U) << row;
         EXPECT_EQ(row.substr(0, name.size()), name);
     }
 }
 
 TEST_F(DemoImage, HoldsLegalPlayersOnly) {
-    for (int team = 0; team <= default_list_team; ++team) {
+    for (const Team team : every<Team>()) {
         for (int player = 0; player < player_count(team); ++player) {
-            const std::string where = std::to_string(team) + '/' + std::to_string(player);
-            const std::string name = read_player_name(image, player_name_field(team, player));
+            const std::string where = std::to_string(team.value()) + '/' + std::to_string(player);
+            const PlayerPlace place = place_of(team, player);
+            const std::string name = read_player_name(image, place);
             EXPECT_GE(name.size(), 3U) << where;
             EXPECT_LE(name.size(), 10U) << where;
-            expect_legal(image.read(player_record_field(team, player)), where);
+            expect_legal(image.read(player_record_field(place)), where);
             if (has_cost(team)) {
-                const int cost = byte_of(image.read(cost_position(team, player), 1)[0]);
+                const int cost = read_cost(image, place).value();
                 EXPECT_TRUE(cost >= 1 && cost <= highest_cost) << where << ": " << cost;
             }
         }
@@ -180,15 +177,15 @@ TEST_F(DemoImage, VariesItsPlayers) {
     std::set<std::string> records;
     std::set<std::string> names;
     std::set<std::string> roles;
-    for (int team = 0; team < roster_team_count; ++team) {
+    for (Team team(0); has_roster(team); ++team) {
         for (int player = 0; player < roster_players; ++player) {
-            const std::string record = image.read(roster_record_field(team, player));
+            const std::string record = image.read(roster_record_field({team, player}));
             records.insert(record);
-            names.insert(read_player_name(image, roster_name_field(team, player)));
+            names.insert(read_player_name(image, RosterPlace{team, player}));
             roles.insert(decode_player(words_of(record)).role.value());
         }
-        const std::string keeper = image.read(roster_record_field(team, 0));
-        EXPECT_EQ(decode_player(words_of(keeper)).role, "Portiere") << team;
+        const std::string keeper = image.read(roster_record_field({team, 0}));
+        EXPECT_EQ(decode_player(words_of(keeper)).role, "Portiere") << team.value();
     }
     EXPECT_GT(records.size(), 1380U);
     EXPECT_GT(names.size(), 1000U);
@@ -196,7 +193,7 @@ TEST_F(DemoImage, VariesItsPlayers) {
 }
 
 TEST_F(DemoImage, GivesEveryTeamAFormation) {
-    for (int row = 0; row <= default_row; ++row) {
+    for (int row = 0; row < TeamRow::count; ++row) {
         const std::string record = image.read(formation_field(TeamRow(row)));
         for (std::size_t k = 0; k < outfield_players; ++k) {
             EXPECT_NE(role_label(hex_digits(record.substr(k, 1))), unknown_role_label) << row;
@@ -215,11 +212,12 @@ TEST_F(DemoImage, GivesEveryTeamAFormation) {
 
 TEST_F(DemoImage, PutsPlayersWhereTheirFormationWantsThem) {
     for (int team = 0; team < nation_count; ++team) {
-        if (team == shifted_team) continue;
+        if (Team(team) == shifted_team) continue;
         const std::string record = image.read(formation_field(TeamRow(team)));
         for (int k = 0; k < outfield_players; ++k) {
             const std::string_view label = role_label(hex_digits(record.substr(static_cast<std::size_t>(k), 1)));
-            const auto role = decode_player(words_of(image.read(roster_record_field(team, k + 1)))).role.value();
+            const auto role =
+                decode_player(words_of(image.read(roster_record_field({Team(team), k + 1})))).role.value();
             EXPECT_EQ(label.substr(0, 2) == "CA", role == "Centravanti") << team << ' ' << k;
             EXPECT_EQ(label.substr(0, 3) == "TER", role == "Terzino") << team << ' ' << k;
         }
@@ -234,18 +232,18 @@ TEST_F(DemoImage, FillsTheBars) {
 }
 
 TEST_F(DemoImage, NumbersEveryTeamWithoutRepeats) {
-    for (int row = 0; row <= default_row; ++row) {
+    for (int row = 0; row < TeamRow::count; ++row) {
         const std::string record = image.read(number_field(TeamRow(row)));
         const std::vector<std::string> entries =
-            row < first_club_row ? decode_national_numbers(record) : decode_club_numbers(record);
+            is_nation(TeamRow(row)) ? decode_national_numbers(record) : decode_club_numbers(record);
         ASSERT_EQ(entries.size(), 23U);
         EXPECT_EQ(entries[0], "01") << row;
         EXPECT_EQ(std::set<std::string>(entries.begin(), entries.end()).size(), 23U) << row;
         for (const std::string& entry : entries) EXPECT_EQ(entry.size(), 2U) << row;
         // A nation's players carry the number in their records too.
-        if (row >= first_club_row || row == shifted_team) continue;
+        if (!is_nation(TeamRow(row)) || Team(row) == shifted_team) continue;
         for (int player = 0; player < roster_players; ++player) {
-            const DecodedPlayer decoded = decode_player(words_of(image.read(roster_record_field(row, player))));
+            const DecodedPlayer decoded = decode_player(words_of(image.read(roster_record_field({Team(row), player}))));
             EXPECT_EQ(std::stoi(decoded.number.value()), std::stoi(entries[static_cast<std::size_t>(player)]));
         }
     }
@@ -253,7 +251,7 @@ TEST_F(DemoImage, NumbersEveryTeamWithoutRepeats) {
 }
 
 TEST_F(DemoImage, AssignsSetPiecesToTheFirstEleven) {
-    for (int row = 0; row <= default_row; ++row) {
+    for (int row = 0; row < TeamRow::count; ++row) {
         for (const char pick : image.read(set_piece_field(TeamRow(row))))
             EXPECT_LT(byte_of(pick), set_piece_rows) << row;
     }
@@ -264,9 +262,9 @@ TEST_F(DemoImage, LinksClubsToPlayersThatExist) {
     int of_the_pool = 0;
     int whole_teams = 0;
     std::vector<std::string> unknown;
-    for (int club = 0; club < club_count; ++club) {
-        const Links links = read_links(image, Club(club));
-        for (int team = 0; team < roster_team_count; ++team) whole_teams += links == links_to_team(Team(team)) ? 1 : 0;
+    for (const Club club : every<Club>()) {
+        const Links links = read_links(image, club);
+        for (Team team(0); has_roster(team); ++team) whole_teams += links == links_to_team(team) ? 1 : 0;
         std::set<std::string> codes;
         for (const PlayerCode link : links) {
             codes.insert(digits_of(link));
@@ -275,10 +273,10 @@ TEST_F(DemoImage, LinksClubsToPlayersThatExist) {
                 unknown.push_back(digits_of(link));
             } else if (const auto* const row = std::get_if<PoolRow>(&*player)) {
                 ++of_the_pool;
-                EXPECT_EQ(std::count(DefaultSlots.begin(), DefaultSlots.end(), row->value()), 0) << digits_of(link);
+                EXPECT_EQ(std::count(DefaultSlots.begin(), DefaultSlots.end(), *row), 0) << digits_of(link);
             }
         }
-        EXPECT_EQ(codes.size(), 23U) << club;
+        EXPECT_EQ(codes.size(), 23U) << club.value();
     }
     EXPECT_GT(of_the_pool, 150);
     EXPECT_EQ(whole_teams, 4);

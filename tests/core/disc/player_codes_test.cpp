@@ -7,12 +7,10 @@
 #include <set>
 #include <sstream>
 
-#include "core/editor/league/league_run.h"
-
 namespace kalco {
 namespace {
 
-using namespace league_tests;
+using Texts = std::vector<std::string>;
 
 // As printed: each nation with its count of rows.
 const std::string printed_runs =
@@ -140,12 +138,6 @@ TEST(PlayerCodes, AreFourDigits) {
     for (const char* text : {"", "2", "251", "25170", "25 7", "+517", "G517", "251g"}) {
         EXPECT_FALSE(code_of_digits(text)) << text;
     }
-}
-
-TEST(PoolCodes, StandInTheListsFromTheStart) {
-    LeagueRun run;
-    EXPECT_EQ(run.form.listHexNC.items(), printed_codes());
-    EXPECT_EQ(run.form.listHexLinkNames.items(), roster_codes());
 }
 
 }  // namespace

@@ -5,8 +5,6 @@
 #include <span>
 
 #include "support/disc_tables.h"
-#include "support/filled_disc.h"
-#include "support/memory_storage.h"
 
 namespace kalco {
 namespace {
@@ -22,6 +20,10 @@ const PrintedSplit* find_split(std::span<const PrintedSplit> splits, int team, i
         if (split.team == team && split.player == player) return &split;
     }
     return nullptr;
+}
+
+auto by_place(Pieces (*field)(RosterPlace)) {
+    return [field](int team, int player) { return field({Team(team), player}); };
 }
 
 /// All fields of a table follow each other along the user data and are cut where the printed splits say, nowhere else.
@@ -41,48 +43,49 @@ void expect_table(int first_team, int teams, int players, int bytes, std::int64_
 }
 
 TEST(Roster, NamesFollowEachOther) {
-    expect_table(0, 63, 23, 10, 387793, test::printed_name_splits, roster_name_field);
+    expect_table(0, 63, 23, 10, 387793, test::printed_name_splits, by_place(roster_name_field));
 }
 
 TEST(Roster, RecordsFollowEachOtherButForOneTeam) {
-    expect_table(0, 31, 23, 12, 2179493, test::printed_record_splits, roster_record_field);
-    expect_table(32, 31, 23, 12, 2189845, test::printed_record_splits, roster_record_field);
+    expect_table(0, 31, 23, 12, 2179493, test::printed_record_splits, by_place(roster_record_field));
+    expect_table(32, 31, 23, 12, 2189845, test::printed_record_splits, by_place(roster_record_field));
 }
 
 TEST(Roster, OneTeamIsShiftedFromItsFourteenthRecordOn) {
     for (int player = 0; player < 13; ++player) {
-        EXPECT_EQ(roster_record_field(31, player), (Piece{2189421 - 12 * (13 - player), 12})) << player;
+        EXPECT_EQ(roster_record_field({Team(31), player}), (Piece{2189421 - 12 * (13 - player), 12})) << player;
     }
     for (int player = 13; player < 23; ++player) {
-        EXPECT_EQ(roster_record_field(31, player), (Piece{2189737 + 12 * (player - 13), 12})) << player;
+        EXPECT_EQ(roster_record_field({Team(31), player}), (Piece{2189737 + 12 * (player - 13), 12})) << player;
     }
-    EXPECT_EQ(roster_record_field(31, 22), roster_record_field(32, 0));
-    EXPECT_EQ(roster_record_field(31, 22).position(), 2189845);
+    EXPECT_EQ(roster_record_field({Team(31), 22}), roster_record_field({Team(32), 0}));
+    EXPECT_EQ(roster_record_field({Team(31), 22}).position(), 2189845);
     for (int team = 0; team < 63; ++team) {
-        for (int player = 0; player < 23; ++player) EXPECT_NE(roster_record_field(team, player).position(), 2189421);
+        for (int player = 0; player < 23; ++player)
+            EXPECT_NE(roster_record_field({Team(team), player}).position(), 2189421);
     }
 }
 
 TEST(Roster, HasASlotBehindTheLastPlayer) {
     for (int team = 0; team < 62; ++team) {
         if (team == 31) continue;
-        EXPECT_EQ(roster_record_field(team, 23), roster_record_field(team + 1, 0)) << team;
+        EXPECT_EQ(roster_record_field({Team(team), 23}), roster_record_field({Team(team + 1), 0})) << team;
     }
-    EXPECT_EQ(roster_record_field(31, 23), (Piece{2189857, 12}));
-    EXPECT_EQ(roster_record_field(38, 23), (Pieces{{2191777, 8}, {2192089, 4}}));
+    EXPECT_EQ(roster_record_field({Team(31), 23}), (Piece{2189857, 12}));
+    EXPECT_EQ(roster_record_field({Team(38), 23}), (Pieces{{2191777, 8}, {2192089, 4}}));
 }
 
 TEST(Roster, StartsTheTeamsAtTheKnownPlaces) {
-    EXPECT_EQ(roster_name_field(40, 0).position(), 398513);
-    EXPECT_EQ(roster_record_field(40, 0).position(), 2192357);
-    EXPECT_EQ(roster_name_field(0, 1).position(), 388107);
-    EXPECT_EQ(roster_name_field(35, 14).position(), 397199);
-    EXPECT_EQ(roster_name_field(35, 15).position(), 397513);
-    EXPECT_EQ(roster_record_field(9, 0).position(), 2182281);
-    EXPECT_EQ(roster_record_field(9, 7).position(), 2182365);
-    EXPECT_EQ(roster_record_field(9, 8).position(), 2182681);
-    EXPECT_EQ(roster_record_field(53, 19).position(), 2196477);
-    EXPECT_EQ(roster_record_field(53, 20).position(), 2196793);
+    EXPECT_EQ(roster_name_field({Team(40), 0}).position(), 398513);
+    EXPECT_EQ(roster_record_field({Team(40), 0}).position(), 2192357);
+    EXPECT_EQ(roster_name_field({Team(0), 1}).position(), 388107);
+    EXPECT_EQ(roster_name_field({Team(35), 14}).position(), 397199);
+    EXPECT_EQ(roster_name_field({Team(35), 15}).position(), 397513);
+    EXPECT_EQ(roster_record_field({Team(9), 0}).position(), 2182281);
+    EXPECT_EQ(roster_record_field({Team(9), 7}).position(), 2182365);
+    EXPECT_EQ(roster_record_field({Team(9), 8}).position(), 2182681);
+    EXPECT_EQ(roster_record_field({Team(53), 19}).position(), 2196477);
+    EXPECT_EQ(roster_record_field({Team(53), 20}).position(), 2196793);
     struct First {
         int team;
         std::int64_t name;
@@ -93,72 +96,40 @@ TEST(Roster, StartsTheTeamsAtTheKnownPlaces) {
                                {61, 403951, 2198761},
                                {62, 404181, 2199341},
                                {53, 401807, 2196249}}) {
-        EXPECT_EQ(roster_name_field(first.team, 0).position(), first.name) << first.team;
-        EXPECT_EQ(roster_record_field(first.team, 0).position(), first.record) << first.team;
+        EXPECT_EQ(roster_name_field({Team(first.team), 0}).position(), first.name) << first.team;
+        EXPECT_EQ(roster_record_field({Team(first.team), 0}).position(), first.record) << first.team;
     }
     for (int team = 54; team <= 60; ++team) {
-        EXPECT_EQ(roster_name_field(team, 0).position(), 402341 + 230 * (team - 54)) << team;
-        EXPECT_EQ(roster_record_field(team, 0).position(), 2196829 + 276 * (team - 54)) << team;
+        EXPECT_EQ(roster_name_field({Team(team), 0}).position(), 402341 + 230 * (team - 54)) << team;
+        EXPECT_EQ(roster_record_field({Team(team), 0}).position(), 2196829 + 276 * (team - 54)) << team;
     }
 }
 
 TEST(Pool, FieldsFollowEachOther) {
     expect_table(95, 1, 462, 10, 2006289, test::printed_pool_name_splits,
-                 [](int, int row) { return pool_name_field(row); });
+                 [](int, int row) { return pool_name_field(PoolRow(row)); });
     expect_table(95, 1, 462, 12, 2204113, test::printed_pool_record_splits,
-                 [](int, int row) { return pool_record_field(row); });
-    EXPECT_EQ(pool_name_field(204).position(), 2008633);
-    EXPECT_EQ(pool_record_field(149).position(), 2206205);
-    EXPECT_EQ(pool_record_field(320).position(), 2208561);
+                 [](int, int row) { return pool_record_field(PoolRow(row)); });
+    EXPECT_EQ(pool_name_field(PoolRow(204)).position(), 2008633);
+    EXPECT_EQ(pool_record_field(PoolRow(149)).position(), 2206205);
+    EXPECT_EQ(pool_record_field(PoolRow(320)).position(), 2208561);
 }
 
 TEST(Pool, HoldsTheDefaultTeamInTheKnownRows) {
     for (std::size_t place = 0; place < 23; ++place) {
         const test::PrintedDefaultSlot& slot = test::printed_default_slots[place];
-        EXPECT_EQ(DefaultSlots[place], slot.row) << place;
-        EXPECT_EQ(pool_name_field(slot.row), (Piece{slot.name, 10})) << place;
-        EXPECT_EQ(pool_record_field(slot.row), (Piece{slot.record, 12})) << place;
+        EXPECT_EQ(DefaultSlots[place], PoolRow(slot.row)) << place;
+        EXPECT_EQ(pool_name_field(PoolRow(slot.row)), (Piece{slot.name, 10})) << place;
+        EXPECT_EQ(pool_record_field(PoolRow(slot.row)), (Piece{slot.record, 12})) << place;
     }
 }
 
 TEST(Roster, CountsThePlayersByTeam) {
     for (int team = -1; team < 98; ++team) {
         const int players = team >= 0 && team <= 62 ? 23 : team == 95 ? 462 : 0;
-        EXPECT_EQ(player_count(team), players) << team;
-        EXPECT_EQ(has_cost(team), (team >= 0 && team <= 53) || team == 95) << team;
+        EXPECT_EQ(player_count(Team(team)), players) << team;
+        EXPECT_EQ(has_cost(Team(team)), (team >= 0 && team <= 53) || team == 95) << team;
     }
-    EXPECT_EQ(player_name_field(95, 408), pool_name_field(408));
-    EXPECT_EQ(player_record_field(95, 319), pool_record_field(319));
-    EXPECT_EQ(player_name_field(62, 8), roster_name_field(62, 8));
-    EXPECT_EQ(player_record_field(31, 22), roster_record_field(31, 22));
-}
-
-TEST(Roster, PutsTheCostsOneByteAPlayer) {
-    EXPECT_EQ(cost_position(0, 0), 3067405);
-    for (int team = 0; team <= 53; ++team) {
-        for (int player = 0; player < 23; ++player) {
-            EXPECT_EQ(cost_position(team, player), 3067405 + 23 * team + player);
-        }
-    }
-    for (int row = 0; row < 462; ++row) EXPECT_EQ(cost_position(95, row), 3069513 + row);
-}
-
-TEST(Roster, ShowsNamesTrimmedThenUpToTheFirstZero) {
-    test::Disc disc;
-    Image image(test::opener_of(disc));
-    image.open("disc.bin");
-    const auto shown = [&](const std::string& bytes) {
-        disc.put(387793, bytes.substr(0, 8));
-        disc.put(388105, bytes.substr(8));
-        return read_player_name(image, roster_name_field(0, 0));
-    };
-    EXPECT_EQ(shown("ABCDEFGHIJ"), "ABCDEFGHIJ");
-    EXPECT_EQ(shown(" AB CD    "), "AB CD");
-    EXPECT_EQ(shown(std::string("AB\0CD", 5) + test::zeroes(5)), "AB");
-    EXPECT_EQ(shown("AB  " + test::zeroes(6)), "AB  ");
-    EXPECT_EQ(shown("  " + test::zeroes(8)), "");
-    EXPECT_EQ(shown("          "), "");
-    EXPECT_EQ(shown("\xE8\xC0\xFF" + test::zeroes(7)), "\xE8\xC0\xFF");
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include <set>
 
+#include "disc/runtime_error.h"
 #include "support/disc_tables.h"
 #include "support/filled_disc.h"
 #include "support/memory_storage.h"
@@ -87,6 +88,47 @@ TEST(NameBytes, StandAsTheyAre) {
             EXPECT_EQ(read_name_bytes(image, team, place), expected) << team.value();
         }
     }
+}
+
+class NamesInAnImage : public ::testing::Test {
+protected:
+    NamesInAnImage() : image_(test::opener_of(disc_)) {
+        disc_.bytes.assign(2100000, 'x');
+        disc_.bytes.resize(2900000, 'y');
+        image_.open("disc.bin");
+    }
+
+    test::Disc disc_;
+    Image image_;
+};
+
+TEST_F(NamesInAnImage, ReadsTheFirstTableUpToItsLength) {
+    disc_.put(2830941, "ABCDEFGHIJ");
+    EXPECT_EQ(read_table_name(image_, Team(0)), "ABCDEFG");
+    disc_.put(2830941, std::string("AB\0DEFG", 7));
+    EXPECT_EQ(read_table_name(image_, Team(0)), "AB");
+    disc_.put(2830941, test::zeroes(7));
+    EXPECT_EQ(read_table_name(image_, Team(0)), "");
+    EXPECT_EQ(read_table_name(image_, Team(95)), "");
+    EXPECT_EQ(read_table_name(image_, Team(96)), "");
+}
+
+TEST_F(NamesInAnImage, DecodesTheSplitNameInOneWalk) {
+    // The single blank stands over the seam: in one walk it is doubled and the letters behind it stay on the grid.
+    disc_.put(2003621, test::letter_code("A ") + "\x82");
+    disc_.put(2003929, "\x61" + test::letter_code("CD") + test::zeroes(1));
+    EXPECT_EQ(read_full_width_name(image_, Team(4)), "A BCD ");
+}
+
+TEST_F(NamesInAnImage, DecodesFullWidthNames) {
+    disc_.put(2003981, test::letter_code("Eire") + test::zeroes(6));
+    EXPECT_EQ(read_full_width_name(image_, Team(0)), "Eire   ");
+    disc_.put(2002317, test::letter_code("Boca") + test::zeroes(2));
+    EXPECT_EQ(read_full_width_name(image_, Team(94)), "Boca ");
+    EXPECT_EQ(read_full_width_name(image_, Team(95)), "");
+    EXPECT_EQ(read_full_width_name(image_, Team(-1)), "");
+    disc_.put(2003981, " ");
+    EXPECT_THROW(read_full_width_name(image_, Team(0)), RuntimeError);
 }
 
 }  // namespace

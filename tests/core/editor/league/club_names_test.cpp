@@ -11,38 +11,6 @@ using namespace league_tests;
 using test::letter_code;
 using test::same_image;
 
-TEST(ClubNames, LieWhereTheTablePrintsThem) {
-    const Texts rows = club_rows();
-    ASSERT_EQ(rows.size(), printed_clubs.size());
-    for (int club = 0; club < 32; ++club) {
-        const PrintedClub& printed = printed_club(club);
-        EXPECT_EQ(rows[static_cast<std::size_t>(club)], printed.row);
-        ImagePos position = 0;
-        int length = 0;
-        Off_Name_ML(club, position, length);
-        EXPECT_EQ(position, printed.full_width_position) << printed.row;
-        EXPECT_EQ(length, printed.full_width_bytes) << printed.row;
-        EXPECT_EQ(club_short_name_position(club), printed.short_position) << printed.row;
-        const auto copies = Call_Name_ML(club);
-        const PrintedCopies& places = printed_copies[static_cast<std::size_t>(club)];
-        for (std::size_t copy = 0; copy < copies.size(); ++copy) {
-            EXPECT_EQ(copies[copy], (NameEntry{places[copy].position, places[copy].capacity}))
-                << printed.row << ", copy " << copy + 1;
-        }
-    }
-}
-
-TEST(ClubNames, OfNoClubLeaveTheResultsAsTheyWere) {
-    for (const int club : {-1, 32, 63, 1000}) {
-        ImagePos position = 12;
-        int length = 34;
-        Off_Name_ML(club, position, length);
-        EXPECT_EQ(position, 12) << club;
-        EXPECT_EQ(length, 34) << club;
-        for (const NameEntry& copy : Call_Name_ML(club)) EXPECT_EQ(copy, NameEntry{}) << club;
-    }
-}
-
 TEST(ClubNames, AreShownWithTheirPadding) {
     LeagueRun run;
     EXPECT_EQ(run.form.lblNameML.caption(), "");

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "support/club_tables.h"
 #include "support/editor_run.h"
 #include "support/filled_disc.h"
 
@@ -15,24 +16,14 @@ using Texts = std::vector<std::string>;
 
 inline const std::string saved = "Salvataggio effettuato con successo";
 
-struct PrintedCopy {
-    std::int64_t position;
-    int capacity;
-};
+using test::printed_club;
+using test::printed_clubs;
+using test::printed_copies;
+using test::printed_link_position;
+using test::PrintedClub;
+using test::PrintedCopies;
+using test::PrintedCopy;
 
-/// A club's eight name places as the table prints them: two here, the six copies apart.
-struct PrintedClub {
-    const char* row;
-    std::int64_t full_width_position;
-    int full_width_bytes;
-    std::int64_t short_position;
-};
-extern const std::array<PrintedClub, 32> printed_clubs;
-using PrintedCopies = std::array<PrintedCopy, 6>;
-extern const std::array<PrintedCopies, 32> printed_copies;
-const PrintedClub& printed_club(int club);
-
-std::int64_t printed_link_position(int club);
 /// The image with digits laid over a club's link table, as many bytes as they give.
 std::string with_links(std::string image, int club, const std::string& digits);
 

@@ -1,4 +1,4 @@
-#include "editor/league/links.h"
+#include "editor/players/linked_names.h"
 
 #include <gtest/gtest.h>
 
@@ -231,17 +231,17 @@ TEST(LinkedNames, NeverShowTheRowBehindTheCodes) {
     EXPECT_EQ(run.on_players(), names_without({1}, 1));
 }
 
-TEST(LinkedNames, OfNoClubChangeNothing) {
-    ClubRun run(codes_with({}));
-    run.form.listDat.add("Kept");
-    run.form.lblNameG.set_caption("Kept");
-    NEW_NAME_ML(run.form);
-    EXPECT_EQ(run.form.listDat.items(), Texts{"Kept"});
-    for (const int tab : {tab::league, tab::transfers, tab::formations}) {
-        EXPECT_EQ(user::select_tab(run.form, tab), user::Outcome::done);
-        run.form.lblNameG.set_caption("Kept");
-        NEW_NAME_ML(run.form);
-        EXPECT_EQ(run.form.lblNameG.caption(), "Kept") << tab;
+TEST(LinkedNames, StandBySlot) {
+    ClubRun run(codes_with({{3, nobody}, {7, vardal}, {22, "0018"}}));
+    run.form.listNC.replace(1, "Changed *");
+    const LinkedNames names = NEW_NAME_ML(run.form, Club(linked_club));
+    const Texts listed = names_of_team(0x0A);
+    for (std::size_t slot = 0; slot < 23; ++slot) {
+        if (slot == 2 || slot == 6) {
+            EXPECT_FALSE(names[slot]) << slot;
+        } else {
+            EXPECT_EQ(names[slot], slot == 21 ? "Changed *" : listed[slot]) << slot;
+        }
     }
 }
 

@@ -4,7 +4,7 @@
 
 #include "core/editor/league/league_run.h"
 #include "disc/codec/latin1.h"
-#include "disc/links.h"
+#include "disc/player_codes.h"
 #include "support/disc_tables.h"
 
 namespace kalco {
@@ -22,30 +22,6 @@ std::string links_for(const std::string& team) {
     std::string digits = pattern;
     for (std::size_t place = 0; place < digits.size(); place += 4) digits.replace(place, 2, team);
     return digits;
-}
-
-TEST(LinkTables, LieWhereTheTablePrintsThem) {
-    for (int club = 0; club < 32; ++club) {
-        ImagePos position1 = 0;
-        ImagePos position2 = 0;
-        LinKML(club + 54, position1, position2);
-        EXPECT_EQ(position1, printed_link_position(club)) << club;
-        EXPECT_EQ(position2, club == 6 ? 2013337 : 0) << club;
-        EXPECT_EQ(link_table_field(Club(club)).split(), club == 6) << club;
-        EXPECT_EQ(link_table_field(Club(club)).bytes(), 46) << club;
-    }
-    EXPECT_EQ(printed_link_position(31), 2014459);
-    EXPECT_EQ(link_table_field(Club(6)), (Pieces{{2013005, 28}, {2013337, 18}}));
-}
-
-TEST(LinkTables, OfNoClubLeaveThePositionsAsTheyWere) {
-    for (const int row : {-1, 0, 53, 86, 87}) {
-        ImagePos position1 = 12;
-        ImagePos position2 = 34;
-        LinKML(row, position1, position2);
-        EXPECT_EQ(position1, 12) << row;
-        EXPECT_EQ(position2, 34) << row;
-    }
 }
 
 TEST(RosterNames, AreAllThoseOfTheTableAndTenBytesMore) {
@@ -85,6 +61,12 @@ TEST(RosterNames, AreTrimmedAndEndAtAZeroByte) {
     EXPECT_EQ(run.form.listNameGiocNaz.item(2), "Ab ");
     EXPECT_EQ(run.form.listNameGiocNaz.item(3), "");
     EXPECT_EQ(run.form.listNameGiocNaz.item(4), "");
+}
+
+TEST(LinkTab, HoldsTheFixedCodesFromTheStart) {
+    LeagueRun run;
+    EXPECT_EQ(run.form.listHexNC.items(), pool_codes());
+    EXPECT_EQ(run.form.listHexLinkNames.items(), roster_codes());
 }
 
 TEST(LinkTab, ListsTheTeamsWithPlayersWhileItIsOpen) {

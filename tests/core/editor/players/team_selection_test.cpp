@@ -99,7 +99,6 @@ TEST(TeamSelection, ShowsAClubByItsLinks) {
     run.form.ListFile.add("x");
     const std::string cost = run.form.txtML.text();
     run.choose_team(63);
-    EXPECT_EQ(run.NEW_NAME_ML, 1);
     EXPECT_EQ(run.form.listDat.row(), -1);
     EXPECT_GE(run.form.listDat.count(), 23) << "names by its links, fillers for the others";
     for (const ListBox* list : {&run.form.listApp, &run.form.listAppIMP, &run.form.ListFile}) {
@@ -140,13 +139,13 @@ TEST(TeamSelection, RunsOnceWhenItIsChosenInCode) {
         ++runs;
         click();
     };
-    select_team(run.form, 3);
+    select_team(run.form, Team(3));
     EXPECT_EQ(runs, 0) << "the same team is read again directly";
-    select_team(run.form, 4);
+    select_team(run.form, Team(4));
     EXPECT_EQ(runs, 1);
     EXPECT_EQ(run.form.cboSeqSQ.row(), 4);
     put(run.disc.bytes, 388107, test::padded_name("Zeta"));
-    select_team(run.form, 0);
+    select_team(run.form, Team(0));
     EXPECT_EQ(run.form.listDat.item(1), "Zeta");
 }
 
