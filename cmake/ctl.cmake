@@ -11,7 +11,7 @@ list(FILTER script_sources INCLUDE REGEX "/ctl/script/")
 list(FILTER ctl_sources EXCLUDE REGEX "/ctl/script/")
 
 add_library(kalco_ctl STATIC ${ctl_sources})
-target_link_libraries(kalco_ctl PUBLIC kalco_work kalco_editor)
+target_link_libraries(kalco_ctl PUBLIC kalco_work)
 add_library(kalco_script STATIC ${script_sources})
 target_link_libraries(kalco_script PUBLIC kalco_ctl kalco_editor)
 foreach(part kalco_ctl kalco_script)

@@ -71,6 +71,11 @@ if(TARGET kalcoctl)
     set_tests_properties(programs PROPERTIES LABELS stories TIMEOUT 300 ENVIRONMENT "${test_env}")
 endif()
 
+# The linker would take a reference upwards as long as the program links the editor too.
+add_test(NAME storeys COMMAND Python3::Interpreter -B ${PROJECT_SOURCE_DIR}/tests/check_storeys.py
+    $<TARGET_FILE:kalco_editor> $<TARGET_FILE:kalco_disc> $<TARGET_FILE:kalco_work> $<TARGET_FILE:kalco_ctl>)
+set_tests_properties(storeys PROPERTIES LABELS stories)
+
 add_test(NAME include_rule COMMAND Python3::Interpreter ${PROJECT_SOURCE_DIR}/tests/check_includes.py
     ${PROJECT_SOURCE_DIR})
 set_tests_properties(include_rule PROPERTIES LABELS lint)

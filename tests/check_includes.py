@@ -4,6 +4,8 @@
 - src/: a folder includes only the folders below it in ALLOWED, the files that BASE_FILES names, and the standard
   library. No file includes itself through others.
 - ctl/ includes no window toolkit, app/ no command line library.
+- ctl/ works on the disc without the editor: only its script/, and the main program that runs it, include editor/ or
+  script/.
 
 Prints one line for each breach and ends with status 1 if there is any.
 """
@@ -117,11 +119,23 @@ def check_shells(root, report):
                     report(f"{os.path.relpath(path, root)}: {target} is {what}")
 
 
+def check_commands(root, report):
+    ctl = os.path.join(root, "ctl")
+    for path in sources(ctl):
+        name = os.path.relpath(path, ctl).replace(os.sep, "/")
+        if name.startswith("script/") or name == "main.cpp":
+            continue
+        for _, target in includes(path):
+            if target.startswith(("editor/", "ctl/script/")):
+                report(f"ctl/{name}: only ctl/script/ stands on the editor ({target})")
+
+
 def check(root):
     breaches = []
     graph = check_core(root, breaches.append)
     check_cycles(graph, breaches.append)
     check_shells(root, breaches.append)
+    check_commands(root, breaches.append)
     return breaches, len(graph)
 
 

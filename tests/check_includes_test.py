@@ -50,6 +50,13 @@ class IncludeRule(unittest.TestCase):
         self.assert_one({"ctl/main.cpp": "#include <QtCore/QString>\n"}, "Qt")
         self.assert_one({"app/main.cpp": "#include <CLI/CLI.hpp>\n"}, "command line")
 
+    def test_commands_without_the_editor(self):
+        header = {"src/editor/window/a.h": ""}
+        self.assert_one({"ctl/demo/a.cpp": '#include "editor/window/a.h"\n', **header}, "only ctl/script/")
+        self.assert_one({"ctl/find_command.cpp": '#include "ctl/script/a.h"\n', "ctl/script/a.h": ""}, "only ctl/script/")
+        self.assertEqual(self.breaches({"ctl/script/a.cpp": '#include "editor/window/a.h"\n',
+                                        "ctl/main.cpp": '#include "ctl/script/a.h"\n', "ctl/script/a.h": "", **header}), [])
+
     def test_unknown_folder_and_file(self):
         self.assert_one({"src/other/a.h": ""}, "no line in the table")
         self.assert_one({"src/disc/image/a.h": '#include "b.h"\n'}, "no file below src/")
