@@ -37,7 +37,8 @@ bool is_mixed_of(std::string_view bytes, const SectorChange& change) {
 
 /// Whether the image can be what an interruption of this save has left.
 bool is_of_image(const journal::Reader& journal, Storage& image) {
-    const auto [least, most] = std::minmax(journal.lengths().before, journal.lengths().after);
+    const journal::Lengths lengths = journal.lengths();
+    const auto [least, most] = std::minmax(lengths.before, lengths.after);
     const std::int64_t size = image.size();
     bool fits = size >= least && size <= most;
     journal.each([&](const SectorChange& change) {
