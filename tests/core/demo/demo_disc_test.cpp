@@ -14,9 +14,9 @@
 #include "disc/links.h"
 #include "disc/numbers.h"
 #include "disc/player_record.h"
-#include "disc/roster.h"
+#include "disc/players.h"
 #include "disc/set_pieces.h"
-#include "disc/teams.h"
+#include "disc/team_names.h"
 #include "support/memory_storage.h"
 
 namespace kalco {
@@ -300,10 +300,12 @@ TEST(DemoSeeds, GiveOtherPlayersEach) {
     other.open("2");
     int same = 0;
     for (int player = 0; player < roster_players; ++player) {
-        same += image.read(roster_record_field(0, player)) == other.read(roster_record_field(0, player)) ? 1 : 0;
+        same += image.read(roster_record_field({Team(0), player})) == other.read(roster_record_field({Team(0), player}))
+                    ? 1
+                    : 0;
     }
     EXPECT_LT(same, 3);
-    EXPECT_EQ(read_table_name(image, 0), read_table_name(other, 0));
+    EXPECT_EQ(read_table_name(image, Team(0)), read_table_name(other, Team(0)));
 }
 
 TEST(DemoDisc, RefusesWhatDoesNotFit) {

@@ -7,6 +7,7 @@
 #include <set>
 #include <vector>
 
+#include "disc/image/image.h"
 #include "disc/player_record.h"
 #include "disc/roster.h"
 #include "support/memory_storage.h"
@@ -163,10 +164,10 @@ TEST(PackAndUnpack, GiveBackEveryPlayerOfARandomImage) {
         EXPECT_EQ(built, record);
         ++players;
     };
-    for (int team = 0; team < 63; ++team) {
-        for (int player = 0; player < 23; ++player) expect_back(roster_record_field(team, player));
+    for (Team team(0); has_roster(team); ++team) {
+        for (int player = 0; player < roster_players; ++player) expect_back(roster_record_field({team, player}));
     }
-    for (int row = 0; row < 462; ++row) expect_back(pool_record_field(row));
+    for (const PoolRow row : every<PoolRow>()) expect_back(pool_record_field(row));
     EXPECT_EQ(players, 1449 + 462);
 }
 
