@@ -3,23 +3,16 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <functional>
 #include <random>
 
 #include "disc/codec/hextext.h"
 #include "disc/runtime_error.h"
+#include "support/error_of.h"
 
 namespace kalco {
 namespace {
 
-int error_of(const std::function<void()>& steps) {
-    try {
-        steps();
-    } catch (const RuntimeError& failure) {
-        return failure.number();
-    }
-    return 0;
-}
+using test::error_of;
 
 TEST(Dectobin, WritesNoLeadingZeroes) {
     EXPECT_EQ(dectobin(0), "0");

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "disc/runtime_error.h"
+#include "support/error_of.h"
 
 namespace kalco {
 namespace {
@@ -25,12 +26,7 @@ TEST(Decimal, RefusesEverythingElse) {
     for (const std::string text : {"", "   ", "-", "+", "--1", "+-1", "- 1", "1 2", "1.0", "1,0", "1e3", "0x10", "&H10",
                                    "ff", "12a", "a12", "\t1", "1\n", "\xB2"}) {
         EXPECT_FALSE(is_number(text)) << text;
-        try {
-            number_of(text);
-            ADD_FAILURE() << text;
-        } catch (const RuntimeError& failure) {
-            EXPECT_EQ(failure.number(), error::type_mismatch);
-        }
+        EXPECT_EQ(test::error_of([&] { number_of(text); }), error::type_mismatch) << text;
     }
     EXPECT_FALSE(is_number(std::string("1\0", 2)));
     EXPECT_TRUE(is_number(" +1 "));

@@ -7,6 +7,7 @@
 
 #include "disc/codec/hextext.h"
 #include "disc/runtime_error.h"
+#include "support/error_of.h"
 
 namespace kalco {
 namespace {
@@ -149,12 +150,7 @@ TEST(Decoding, CountsAShortLastGroupAsABlank) {
 
 TEST(Decoding, FailsOnAFieldThatBeginsWithABlank) {
     for (const std::string hex : {"20", "20 20", "20 82 60"}) {
-        try {
-            decoded(hex);
-            ADD_FAILURE() << hex;
-        } catch (const RuntimeError& failure) {
-            EXPECT_EQ(failure.number(), error::invalid_call);
-        }
+        EXPECT_EQ(test::error_of([&] { decoded(hex); }), error::invalid_call) << hex;
     }
 }
 

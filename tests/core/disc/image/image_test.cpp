@@ -2,26 +2,19 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <memory>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "disc/runtime_error.h"
+#include "support/error_of.h"
 #include "support/memory_storage.h"
 
 namespace kalco {
 namespace {
 
-int error_of(const std::function<void()>& steps) {
-    try {
-        steps();
-    } catch (const RuntimeError& failure) {
-        return failure.number();
-    }
-    return 0;
-}
+using test::error_of;
 
 class ImageInMemory : public ::testing::Test {
 protected:

@@ -4,23 +4,16 @@
 
 #include "disc/image/storage.h"
 #include "disc/runtime_error.h"
+#include "support/error_of.h"
 #include "support/system_faults.h"
 #include "support/temporary_home.h"
 
 namespace kalco {
 namespace {
 
+using test::error_of;
 using test::SystemCall;
 using test::SystemFaults;
-
-int error_of(const std::function<void()>& steps) {
-    try {
-        steps();
-    } catch (const RuntimeError& failure) {
-        return failure.number();
-    }
-    return 0;
-}
 
 class FaultyFile : public ::testing::Test {
 protected:

@@ -14,19 +14,13 @@
 #include <functional>
 
 #include "disc/runtime_error.h"
+#include "support/error_of.h"
 #include "support/temporary_home.h"
 
 namespace kalco {
 namespace {
 
-int error_of(const std::function<void()>& steps) {
-    try {
-        steps();
-    } catch (const RuntimeError& failure) {
-        return failure.number();
-    }
-    return 0;
-}
+using test::error_of;
 
 int opening_error(const std::string& path) {
     return error_of([&] { open_file(path); });

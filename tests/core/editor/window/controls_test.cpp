@@ -2,24 +2,16 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <stdexcept>
 
 #include "disc/runtime_error.h"
+#include "support/error_of.h"
 
 namespace kalco {
 namespace {
 
+using test::error_of;
 using Texts = std::vector<std::string>;
-
-int error_of(const std::function<void()>& steps) {
-    try {
-        steps();
-    } catch (const RuntimeError& failure) {
-        return failure.number();
-    }
-    return 0;
-}
 
 class Controls : public ::testing::Test {
 protected:

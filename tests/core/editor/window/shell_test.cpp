@@ -2,11 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
-
 #include "editor/editor.h"
 #include "editor/window/general.h"
 #include "editor/window/user.h"
+#include "support/error_of.h"
 #include "support/fake_platform.h"
 #include "support/filled_disc.h"
 #include "support/shelf.h"
@@ -16,17 +15,9 @@
 namespace kalco {
 namespace {
 
+using test::error_of;
 using test::Snapshot;
 using Texts = std::vector<std::string>;
-
-int error_of(const std::function<void()>& steps) {
-    try {
-        steps();
-    } catch (const RuntimeError& failure) {
-        return failure.number();
-    }
-    return 0;
-}
 
 /// An editor with two images; the routines of the lists are noted in `runs`.
 class Shell : public ::testing::Test {

@@ -4,25 +4,16 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <functional>
-
 #include "disc/runtime_error.h"
+#include "support/error_of.h"
 #include "support/fake_platform.h"
 #include "support/temporary_home.h"
 
 namespace kalco {
 namespace {
 
+using test::error_of;
 using Lines = std::vector<std::string>;
-
-int error_of(const std::function<void()>& steps) {
-    try {
-        steps();
-    } catch (const RuntimeError& failure) {
-        return failure.number();
-    }
-    return 0;
-}
 
 class SideFiles : public ::testing::Test {
 protected:
