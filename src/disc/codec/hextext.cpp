@@ -57,6 +57,14 @@ std::string bytes_of_digits(std::string_view digits) {
     return bytes;
 }
 
+std::string bytes_of_whole_pairs(std::string_view digits) {
+    std::string bytes = bytes_of_digits(digits);
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
+        if (digit_value(digits[2 * i + 1]) < 0) bytes[i] = '\0';
+    }
+    return bytes;
+}
+
 std::string hex_number(std::int64_t value, std::size_t width) {
     auto bits = static_cast<std::uint64_t>(value);
     if (value < 0) bits &= 0xFFFFFFFFU;

@@ -16,6 +16,8 @@ std::string hex_digits(std::string_view bytes);
 std::string bytes_of_digits(std::string_view digits);
 /// The value of a pair of digits, by the same rule.
 std::uint8_t hex_pair(std::string_view pair);
+/// The bytes of digits, but a pair that is not two hexadecimal digits counts as 0.
+std::string bytes_of_whole_pairs(std::string_view digits);
 
 /// Hexadecimal form in upper case, padded on the left with "0" to `width` digits. A negative number has the 8 digits
 /// of its 32 bits.

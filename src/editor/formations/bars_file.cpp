@@ -27,7 +27,7 @@ std::string bar_digits(const frmKalco& form) {
 }
 
 void import_bars(frmKalco& form, TeamRow row, std::string_view line) {
-    write_bars(form.image, row, bytes_of_digits(left(line, 2 * bar_count)));
+    write_bars(form.image, row, bytes_of_whole_pairs(left(line, 2 * bar_count)));
     form.listApp2.clear();
     Read_Bar(form);
 }
@@ -63,7 +63,7 @@ void cmdImport_Click(frmKalco& form) {
     const Answer answer = form.platform.message(question, Icon::warning, Buttons::yes_no_cancel);
     // Cancel is not a way out: it takes the formation alone.
     if (answer != Answer::cancel) import_bars(form, row, line);
-    if (answer != Answer::no) write_formation(form.image, row, bytes_of_digits(right(line, 2 * formation_bytes)));
+    if (answer != Answer::no) write_formation(form.image, row, bytes_of_whole_pairs(right(line, 2 * formation_bytes)));
     form.tell_saved(imported_parts(answer) + form.cboSeqSQ2.text());
     form.reopen_image();
     cboSeqSQ2_Click(form);

@@ -47,6 +47,13 @@ TEST(HexText, CountsAPairByItsValidLeadingDigits) {
                                                      3));
 }
 
+TEST(HexText, CountsHalfAPairAsZeroWhereThatIsAsked) {
+    EXPECT_EQ(bytes_of_whole_pairs("4G41zzfF 1-11 "), std::string("\0A\0\xFF\0\0\0", 7));
+    EXPECT_EQ(bytes_of_whole_pairs("41424"), "AB");
+    EXPECT_EQ(bytes_of_whole_pairs("4"), "");
+    EXPECT_EQ(bytes_of_whole_pairs(hex_digits(all_bytes())), all_bytes());
+}
+
 TEST(HexText, WritesNumbersWithLeadingZeroes) {
     EXPECT_EQ(hex_number(0), "0");
     EXPECT_EQ(hex_number(0, 2), "00");
