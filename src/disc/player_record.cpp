@@ -272,6 +272,10 @@ std::array<std::string, 3> groups_of_entry(std::string_view entry) {
             std::string(right(entry, group_length))};
 }
 
+std::string entry_of_groups(const std::array<std::string, 3>& groups) {
+    return groups[0] + ' ' + groups[1] + ' ' + groups[2];
+}
+
 std::int64_t word_of_group(std::string_view group) {
     std::int64_t value = 0;
     for (int byte = 0; byte < 4; ++byte) {

@@ -83,6 +83,9 @@ std::int64_t value_of(const std::array<std::string_view, n>& table, std::string_
 /// The three groups of a record's list entry: its characters 1 to 11, 13 to 23 and the last 11.
 std::array<std::string, 3> groups_of_entry(std::string_view entry);
 
+/// The list entry of three groups.
+std::string entry_of_groups(const std::array<std::string, 3>& groups);
+
 /// The signed little-endian word of a group of four bytes ("56 24 E6 25"). Error 5 when the group has fewer.
 std::int64_t word_of_group(std::string_view group);
 

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "disc/player_record.h"
 #include "support/filled_disc.h"
 
 /// Team files as texts, written apart from the editor's own export.
@@ -15,16 +16,9 @@ inline std::string head_of_team_file(const std::string& long_name, const std::st
 }
 
 /// The three words of a record as signed decimal numbers, each with a comma behind it.
-inline std::string words_of_record(const std::string& record) {
+inline std::string text_of_words(const std::string& record) {
     std::string text;
-    for (std::size_t word = 0; word < 3; ++word) {
-        std::int64_t value = 0;
-        for (std::size_t byte = 4; byte-- > 0;) {
-            value = value * 256 + static_cast<unsigned char>(record[word * 4 + byte]);
-        }
-        if (value >= 2147483648) value -= 4294967296;
-        text += std::to_string(value) + ',';
-    }
+    for (const std::int64_t word : words_of_record(record)) text += std::to_string(word) + ',';
     return text;
 }
 
@@ -33,8 +27,7 @@ inline std::string team_file(int team, int players, const std::string& long_name
                              const std::string& short_name = "NUO", const std::string& end = "\r\n") {
     std::string text = head_of_team_file(long_name, short_name, end);
     for (int i = 0; i < players; ++i) {
-        text +=
-            'p' + std::to_string(i + 1) + '=' + words_of_record(player_record(team, i)) + player_name(team, i) + end;
+        text += 'p' + std::to_string(i + 1) + '=' + text_of_words(player_record(team, i)) + player_name(team, i) + end;
     }
     return text;
 }

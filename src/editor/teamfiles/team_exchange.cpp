@@ -1,6 +1,5 @@
 #include "editor/teamfiles/team_exchange.h"
 
-#include "disc/codec/latin1.h"
 #include "disc/player_record.h"
 #include "disc/roster.h"
 #include "disc/runtime_error.h"
@@ -10,14 +9,13 @@
 namespace kalco {
 namespace {
 
-std::string exported_line(frmKalco& form, int player) {
+std::string line_of_player(frmKalco& form, int player) {
     if (player >= form.listApp.count()) throw RuntimeError(error::invalid_call);
     const auto groups = groups_of_entry(form.listApp.item(player));
     form.Text4.set_text(groups[0]);
     form.Text5.set_text(groups[1]);
     form.Text6.set_text(groups[2]);
-    const Words words{word_of_group(groups[0]), word_of_group(groups[1]), word_of_group(groups[2])};
-    return player_line(player + 1, words, form.listDat.item(player));
+    return exported_line(player + 1, groups, form.listDat.item(player));
 }
 
 void read_file(frmKalco& form, const std::string& path) {
@@ -25,8 +23,9 @@ void read_file(frmKalco& form, const std::string& path) {
 }
 
 void show_names(frmKalco& form) {
-    form.txtSQ.set_text(mid(form.listAppIMP.item(static_cast<int>(long_name_line)), long_name_place));
-    form.txtSqShort.set_text(mid(form.listAppIMP.item(static_cast<int>(short_name_line)), short_name_place));
+    const TeamFileNames names = names_of_team_file(form.listAppIMP.items());
+    form.txtSQ.set_text(names.long_name);
+    form.txtSqShort.set_text(names.short_name);
     form.txtSqHEX.set_text(form.txtSQ.text());
     form.txtSqDec.set_text(form.txtSQ.text());
 }
@@ -36,7 +35,7 @@ void import_player(frmKalco& form, int index) {
     form.Text1.set_text(fields.words[0]);
     form.Text2.set_text(fields.words[1]);
     form.Text3.set_text(fields.words[2]);
-    form.listDat.add(left(fields.name, player_name_bytes));
+    form.listDat.add(fields.imported_name());
     Conv_PARAM(form);
 }
 
@@ -50,7 +49,7 @@ void cmdExp_Click(frmKalco& form) {
         side_file_path(form.platform, directory::export_teams, form.txtSQ.text() + std::string(team_file_extension));
     write_lines(path, {});
     for (const std::string& line : team_file_head(form.txtSQ.text(), form.txtSqShort.text())) form.ListFile.add(line);
-    for (int player = 0; player < roster_players; ++player) form.ListFile.add(exported_line(form, player));
+    for (int player = 0; player < roster_players; ++player) form.ListFile.add(line_of_player(form, player));
     write_lines(path, form.ListFile.items());
     form.inform("File creato con successo");
 }
@@ -84,7 +83,7 @@ void Conv_PARAM(frmKalco& form) {
     form.Text4.set_text(groups[0]);
     form.Text5.set_text(groups[1]);
     form.Text6.set_text(groups[2]);
-    form.listApp.add(groups[0] + ' ' + groups[1] + ' ' + groups[2]);
+    form.listApp.add(entry_of_groups(groups));
 }
 
 void connect_team_exchange(frmKalco& form) {

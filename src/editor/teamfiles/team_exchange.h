@@ -15,7 +15,7 @@ void cmdExp_Click(frmKalco& form);
 void cmdImp_Click(frmKalco& form);
 void cmdImpML_Click(frmKalco& form);
 
-/// Adds the entry of Text1 to Text3 to listApp. Errors as for entry_of_words.
+/// Adds the entry of Text1 to Text3 to listApp. Errors as for groups_of_words.
 void Conv_PARAM(frmKalco& form);
 
 }  // namespace kalco

@@ -27,7 +27,7 @@ bool open_side(frmKalco& form, const TransferSide& side) {
     const std::string path = form.platform.open_dialog(team_file_filter, form.platform.program_directory());
     if (path.empty()) return false;
     for (const std::string& line : read_lines(path)) side.lines.add(line);
-    side.team.set_text(upper(mid(side.lines.item(static_cast<int>(long_name_line)), long_name_place)));
+    side.team.set_text(upper(names_of_team_file(side.lines.items()).long_name));
     for (int line = first_player_line; line <= last_player_line; ++line) {
         side.names.add(' ' + std::string(name_of_player_line(side.lines.item(line))));
     }
@@ -45,16 +45,6 @@ void open_team(frmKalco& form, const TransferSide& side, Enable enable) {
         side.team.set_text({});
         form.platform.message("Attenzione puoi aprire solo\r\n     files di 23 giocatori", Icon::stop, Buttons::ok);
     }
-}
-
-/// The key of a line, up to and with its first "=", and the player behind it.
-std::size_t key_length(const std::string& line) {
-    const auto equals = line.find('=');
-    return equals == std::string::npos ? 0 : equals + 1;
-}
-
-std::string with_player_of(const std::string& line, const std::string& other) {
-    return line.substr(0, key_length(line)) + other.substr(key_length(other));
 }
 
 void copy_player(const TransferSide& from, int v, const TransferSide& to, int c) {

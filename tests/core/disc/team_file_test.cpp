@@ -24,6 +24,37 @@ TEST(TeamFile, WritesAPlayerInALine) {
     EXPECT_EQ(player_line(10, {0, -2147483648, 2147483647}, ""), "p10=0,-2147483648,2147483647,");
 }
 
+TEST(TeamFile, WritesAPlayerFromTheGroupsOfHisEntry) {
+    EXPECT_EQ(exported_line(9, {"56 24 E6 25", "8D 85 C6 D2", "70 57 65 54"}, "Giocatore"),
+              "p9=635839574,-758741619,1415927664,Giocatore");
+    EXPECT_EQ(test::error_of([] { exported_line(1, {"56 24 E6 25", "", "70 57 65 54"}, "A"); }), error::invalid_call);
+}
+
+TEST(TeamFile, FindsTheNamesByTheirLines) {
+    const TeamFileNames names = names_of_team_file(team_file_head("Italy ", "ITA"));
+    EXPECT_EQ(names.long_name, "Italy ");
+    EXPECT_EQ(names.short_name, "ITA");
+    // The keys are not looked at, only their places.
+    EXPECT_EQ(names_of_team_file(Texts{"", "", "", "123456789Long", "1234567890Short"}).long_name, "Long");
+    EXPECT_EQ(names_of_team_file(Texts{"", "", "", "123456789Long", "1234567890Short"}).short_name, "Short");
+    EXPECT_EQ(names_of_team_file(Texts{"", "", "", "longname"}).long_name, "");
+    EXPECT_EQ(names_of_team_file(Texts{"", "", "", "longname=A"}).short_name, "");
+    EXPECT_EQ(names_of_team_file({}).long_name, "");
+}
+
+TEST(TeamFile, PutsAPlayerBehindTheKeyOfAnotherLine) {
+    EXPECT_EQ(with_player_of("p9=1,2,3,A", "p10=4,5,6,B=C"), "p9=4,5,6,B=C");
+    EXPECT_EQ(with_player_of("no key", "p10=4,5,6,B"), "4,5,6,B");
+    EXPECT_EQ(with_player_of("p9=1,2,3,A", "no key"), "p9=no key");
+    EXPECT_EQ(with_player_of("p9=", "p1="), "p9=");
+}
+
+TEST(TeamFile, ImportsAsMuchOfANameAsTheDiscHolds) {
+    EXPECT_EQ(split_player_line("p1=1,2,3,Abcdefghijkl", 0).imported_name(), "Abcdefghij");
+    EXPECT_EQ(split_player_line("p1=1,2,3,Abc ", 0).imported_name(), "Abc ");
+    EXPECT_EQ(split_player_line("p1=1,2,3,", 0).imported_name(), "");
+}
+
 TEST(TeamFile, SplitsALineAtItsFirstThreeCommas) {
     const PlayerLine line = split_player_line("p9=1,-2,3,De Rossi, D.", 8);
     EXPECT_EQ(line.words, (std::array<std::string, 3>{"1", "-2", "3"}));

@@ -26,7 +26,7 @@ std::string file_with(const Texts& names, const std::string& long_name, const st
     std::string text = test::head_of_team_file(long_name, short_name);
     for (std::size_t i = 0; i < names.size(); ++i) {
         text += 'p' + std::to_string(i + 1) + '=' +
-                test::words_of_record(player_record(source_team, static_cast<int>(i))) + names[i] + "\r\n";
+                test::text_of_words(player_record(source_team, static_cast<int>(i))) + names[i] + "\r\n";
     }
     return text;
 }

@@ -17,7 +17,7 @@ const Texts too_few{"Attenzione puoi aprire solo\r\n     files di 23 giocatori"}
 
 /// Line `row` of a file, with the words and the name of another player.
 std::string line_of(int row, int team, int player) {
-    return 'p' + std::to_string(row + 1) + '=' + test::words_of_record(test::player_record(team, player)) +
+    return 'p' + std::to_string(row + 1) + '=' + test::text_of_words(test::player_record(team, player)) +
            test::player_name(team, player);
 }
 
