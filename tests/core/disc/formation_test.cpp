@@ -4,13 +4,14 @@
 
 #include <set>
 
-#include "core/editor/formations/formation_tab.h"
+#include "disc/codec/hextext.h"
+#include "support/printed_rows.h"
 
 namespace kalco {
 namespace {
 
-using formation_tests::places_of;
-using formation_tests::printed_formation;
+using test::places_of;
+using test::printed_formation;
 
 TEST(FormationField, LiesAtThePrintedPlaceForEveryRow) {
     for (int row = 0; row <= 86; ++row)
@@ -57,10 +58,17 @@ TEST(RoleTable, PairsEveryCodeWithItsLabel) {
 TEST(RoleTable, DecodesEveryOtherCodeToQuestionMarks) {
     for (int code = 0; code < 256; ++code) {
         if (code >= 0x02 && code <= 0x15) continue;
-        const std::string digits = formation_tests::hex_of(std::string(1, static_cast<char>(code)));
+        const std::string digits = hex_digits(std::string(1, static_cast<char>(code)));
         EXPECT_EQ(role_label(digits), "???") << digits;
     }
     for (const char* text : {"", "2", "0a", "0A ", "002", "zz"}) EXPECT_EQ(role_label(text), "???") << text;
+}
+
+TEST(RoleTable, LabelsEveryStoredByteAsItsDigits) {
+    for (int code = 0; code < 256; ++code) {
+        const auto byte = static_cast<std::uint8_t>(code);
+        EXPECT_EQ(role_label(byte), role_label(hex_number(code, 2))) << code;
+    }
 }
 
 TEST(RoleTable, EncodesEveryOtherLabelToNothing) {

@@ -2,9 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <set>
-
 #include "core/editor/formations/formation_tab.h"
+#include "disc/codec/hextext.h"
 
 namespace kalco {
 namespace {
@@ -33,33 +32,10 @@ bool steps_enabled(const FormationTab& tab) {
     return first;
 }
 
-TEST(BarsField, LiesAtThePrintedPlaceForEveryRow) {
-    std::set<ImagePos> used;
-    for (int row = 0; row < 86; ++row) {
-        EXPECT_EQ(places_of(bars_field(TeamRow(row))), printed_bars(row)) << row;
-        for (const Piece& piece : bars_field(TeamRow(row))) {
-            for (int i = 0; i < piece.bytes; ++i) EXPECT_TRUE(used.insert(piece.position + i).second) << row;
-        }
-    }
-    EXPECT_EQ(used.size(), 86U * 5U);
-}
-
-TEST(BarsField, MeetsThePrintedEnds) {
-    EXPECT_EQ(bars_field(TeamRow(0)).position(), 2328185);
-    EXPECT_EQ(bars_field(TeamRow(2)).position(), 2328195);
-    EXPECT_EQ(bars_field(TeamRow(3))[0], (Piece{2328200, 1}));
-    EXPECT_EQ(bars_field(TeamRow(3))[1], (Piece{2328505, 4}));
-    EXPECT_EQ(bars_field(TeamRow(4)).position(), 2328509);
-    EXPECT_EQ(bars_field(TeamRow(53)).position(), 2328754);
-    EXPECT_EQ(bars_field(TeamRow(54)).position(), 2328804);
-    EXPECT_EQ(bars_field(TeamRow(85)).position(), 2328959);
-    EXPECT_EQ(bars_field(TeamRow(54)).position() - (bars_field(TeamRow(53)).position() + 5), 45);
-}
-
 TEST(BarsEntry, ReadsEveryRowAndShowsNone) {
     FormationTab tab;
     ASSERT_EQ(tab.form.listApp2.count(), 86);
-    for (int row = 0; row < 86; ++row) EXPECT_EQ(tab.form.listApp2.item(row), hex_of(bars_of(row))) << row;
+    for (int row = 0; row < 86; ++row) EXPECT_EQ(tab.form.listApp2.item(row), hex_digits(bars_of(row))) << row;
     EXPECT_EQ(tab.bar_values(), "0 0 0 0 0");
     EXPECT_EQ(tab.bar_captions(), "    ");
     EXPECT_FALSE(steps_enabled(tab));
@@ -99,16 +75,16 @@ TEST_P(BarsOfEveryRow, AreShownSteppedAndSaved) {
         value = static_cast<char>(lower ? value - 1 : value + 1);
         EXPECT_EQ(tab.form.pbFZ(i).value(), value);
         EXPECT_EQ(tab.form.pbFZ(i).caption(), std::to_string(value));
-        EXPECT_EQ(tab.form.listApp2.item(row), hex_of(bars));
+        EXPECT_EQ(tab.form.listApp2.item(row), hex_digits(bars));
     }
     EXPECT_EQ(tab.form.listApp2.count(), 86);
     EXPECT_EQ(tab.disc.writes, 0);
     tab.click(tab.form.cmdSalva);
-    EXPECT_TRUE(same_bytes(tab.disc.bytes, image_with(row, bars)));
+    EXPECT_TRUE(same_image(tab.disc.bytes, image_with(row, bars)));
     EXPECT_EQ(tab.told(), Texts{saved});
     EXPECT_EQ(tab.disc.flushes, 1);
     EXPECT_EQ(tab.form.listApp2.count(), 86);
-    EXPECT_EQ(tab.form.listApp2.item(row), hex_of(bars));
+    EXPECT_EQ(tab.form.listApp2.item(row), hex_digits(bars));
     EXPECT_EQ(tab.form.cboSeqSQ2.row(), row);
 }
 
@@ -130,18 +106,18 @@ TEST(BarsOfTheDefaultTeam, AreNone) {
 }
 
 TEST(BarsSave, WritesTheSplitRowInTwoPieces) {
-    FormationTab tab(image_with(3, bytes_of("0508070608")));
+    FormationTab tab(image_with(3, bytes_of_digits("0508070608")));
     tab.choose(3);
     tab.click(tab.form.cmdPiu(5));
     EXPECT_EQ(tab.form.listApp2.item(3), "0508070609");
     tab.click(tab.form.cmdSalva);
-    EXPECT_EQ(hex_of(tab.disc.at(2328200, 1)), "05");
-    EXPECT_EQ(hex_of(tab.disc.at(2328505, 4)), "08070609");
-    EXPECT_TRUE(same_bytes(tab.disc.bytes, image_with(3, bytes_of("0508070609"))));
+    EXPECT_EQ(hex_digits(tab.disc.at(2328200, 1)), "05");
+    EXPECT_EQ(hex_digits(tab.disc.at(2328505, 4)), "08070609");
+    EXPECT_TRUE(same_image(tab.disc.bytes, image_with(3, bytes_of_digits("0508070609"))));
 }
 
 TEST(BarsStep, IsHeldBetween0And10) {
-    FormationTab tab(image_with(10, bytes_of("0901000A05")));
+    FormationTab tab(image_with(10, bytes_of_digits("0901000A05")));
     tab.choose(10);
     tab.click(tab.form.cmdPiu(1));
     EXPECT_EQ(tab.form.listApp2.item(10), "0A01000A05");
@@ -164,30 +140,30 @@ TEST(BarsStep, TakesEveryStoredByte) {
         tab.choose(20);
         EXPECT_EQ(tab.form.pbFZ(1).value(), held);
         EXPECT_EQ(tab.form.pbFZ(1).caption(), std::to_string(stored));
-        EXPECT_EQ(tab.form.listApp2.item(20), hex_of(bars));
+        EXPECT_EQ(tab.form.listApp2.item(20), hex_digits(bars));
         tab.click(tab.form.cmdMeno(1));
         const int lower = std::max(held - 1, 0);
         EXPECT_EQ(tab.form.pbFZ(1).caption(), std::to_string(lower));
         // A bar that was not stepped keeps its caption, but its held value goes into the row.
         EXPECT_EQ(tab.form.pbFZ(3).caption(), std::to_string(stored));
         const std::string row{static_cast<char>(lower), 4, static_cast<char>(held), 4, 4};
-        EXPECT_EQ(tab.form.listApp2.item(20), hex_of(row));
+        EXPECT_EQ(tab.form.listApp2.item(20), hex_digits(row));
         tab.click(tab.form.cmdSalva);
-        EXPECT_TRUE(same_bytes(tab.disc.bytes, image_with(20, row)));
+        EXPECT_TRUE(same_image(tab.disc.bytes, image_with(20, row)));
     }
 }
 
 TEST(BarsSave, WithoutAStepWritesTheStoredBytes) {
-    const std::string bars = bytes_of("FF10807F0B");
+    const std::string bars = bytes_of_digits("FF10807F0B");
     FormationTab tab(image_with(20, bars));
     tab.choose(20);
     tab.click(tab.form.cmdSalva);
-    EXPECT_TRUE(same_bytes(tab.disc.bytes, image_with(20, bars)));
+    EXPECT_TRUE(same_image(tab.disc.bytes, image_with(20, bars)));
     EXPECT_EQ(tab.disc.writes, 1);
 }
 
 TEST(UnsavedBars, SurviveAnotherTeamAndAnotherTab) {
-    FormationTab tab(image_with(10, bytes_of("0505050505")));
+    FormationTab tab(image_with(10, bytes_of_digits("0505050505")));
     tab.choose(10);
     tab.click(tab.form.cmdPiu(2));
     tab.choose(11);
@@ -205,7 +181,7 @@ TEST(UnsavedBars, SurviveAnotherTeamAndAnotherTab) {
 }
 
 TEST(UnsavedBars, OfOtherTeamsAreDroppedByASave) {
-    FormationTab tab(image_with(10, bytes_of("0505050505")));
+    FormationTab tab(image_with(10, bytes_of_digits("0505050505")));
     tab.choose(10);
     tab.click(tab.form.cmdPiu(2));
     tab.select_tab(tab::transfers);
@@ -223,12 +199,12 @@ TEST(UnsavedBars, AreNotSavedWithTheFormation) {
     tab.click(tab.form.cmdPiu(2));
     const std::string row = tab.form.listApp2.item(10);
     tab.click(tab.form.cmdModifica);
-    EXPECT_TRUE(same_bytes(tab.disc.bytes, filled_image()));
+    EXPECT_TRUE(same_image(tab.disc.bytes, filled_image()));
     EXPECT_EQ(tab.form.listApp2.item(10), row);
 }
 
 TEST(UnsavedBars, AreDroppedWhenAnotherImageIsOpened) {
-    FormationTab tab(image_with(10, bytes_of("0505050505")));
+    FormationTab tab(image_with(10, bytes_of_digits("0505050505")));
     tab.choose(10);
     tab.click(tab.form.cmdPiu(2));
     tab.platform.choices.emplace_back("other.bin");
@@ -275,14 +251,14 @@ TEST(BarsWithoutATeam, DoNothing) {
 TEST(BarsSave, StopsAtAFailingWrite) {
     for (const int row : {3, 10, 85}) {
         for (int failing = 1; failing <= (row == 3 ? 2 : 1); ++failing) {
-            FormationTab tab(image_with(row, bytes_of("0101010101")));
+            FormationTab tab(image_with(row, bytes_of_digits("0101010101")));
             tab.choose(row);
             for (int i = 1; i <= 5; ++i) tab.click(tab.form.cmdPiu(i));
             tab.disc.failing_write = failing;
             EXPECT_EQ(error_of([&] { tab.click(tab.form.cmdSalva); }), 61);
             EXPECT_EQ(tab.told(), Texts{});
-            EXPECT_TRUE(
-                same_bytes(tab.disc.bytes, image_with(row, bytes_of(failing == 2 ? "0201010101" : "0101010101"))));
+            EXPECT_TRUE(same_image(tab.disc.bytes,
+                                   image_with(row, bytes_of_digits(failing == 2 ? "0201010101" : "0101010101"))));
         }
     }
 }

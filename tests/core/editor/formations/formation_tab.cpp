@@ -1,14 +1,7 @@
 #include "core/editor/formations/formation_tab.h"
 
-#include <unistd.h>
-
-#include <atomic>
 #include <cstdint>
-#include <filesystem>
-#include <fstream>
-#include <sstream>
-
-#include "disc/formation.h"
+#include <utility>
 
 namespace kalco::formation_tests {
 namespace {
@@ -39,7 +32,7 @@ std::string make_image() {
     put(image, 2003549, full_width("Italy"));
     put(image, 2002681, full_width("AstonVi"));
     put(image, 2002317, full_width("BocaJ"));
-    for (int row = 0; row < 87; ++row) put(image, printed_formation(row), record_of_row(row).bytes());
+    for (int row = 0; row < 87; ++row) put(image, printed_formation(row), pack_formation(record_of_row(row)));
     for (int row = 0; row < 86; ++row) {
         std::string bars;
         for (int i = 0; i < 5; ++i) bars += static_cast<char>((row * 7 + i * 3) % 11);
@@ -49,27 +42,6 @@ std::string make_image() {
 }
 
 }  // namespace
-
-Stretches printed_formation(int row) {
-    if (row == 32) return {{2304661, 20}, {2304985, 10}};
-    if (row == 86) return {{2306857, 30}};
-    if (row <= 31) return {{2303701 + 30 * row, 30}};
-    if (row <= 53) return {{2304995 + 30 * (row - 33), 30}};
-    return {{2305895 + 30 * (row - 54), 30}};
-}
-
-Stretches printed_bars(int row) {
-    if (row == 3) return {{2328200, 1}, {2328505, 4}};
-    if (row <= 2) return {{2328185 + 5 * row, 5}};
-    if (row <= 53) return {{2328509 + 5 * (row - 4), 5}};
-    return {{2328804 + 5 * (row - 54), 5}};
-}
-
-Stretches places_of(const Pieces& field) {
-    Stretches places;
-    for (const Piece& piece : field) places.push_back({piece.position, piece.bytes});
-    return places;
-}
 
 ImagePos user_byte_position(UserOffset offset) {
     ImagePos position = 25;
@@ -82,45 +54,15 @@ const std::string& filled_image() {
     return image;
 }
 
-std::string Record::bytes() const {
-    std::string text;
-    for (const auto* column : {&roles, &x, &y}) {
-        for (const int value : *column) text += static_cast<char>(value);
-    }
-    return text;
-}
-
-Record record_of_row(int row) {
-    Record record{};
+Formation record_of_row(int row) {
+    Formation record;
     for (std::size_t i = 0; i < 10; ++i) {
         const int k = static_cast<int>(i);
-        record.roles[i] = 2 + (row + 3 * k) % 20;
-        record.x[i] = 1 + (row + 5 * k) % 48;
-        record.y[i] = 1 + (2 * row + 11 * k) % 110;
+        record.roles[i] = static_cast<std::uint8_t>(2 + (row + 3 * k) % 20);
+        record.x[i] = static_cast<std::uint8_t>(1 + (row + 5 * k) % 48);
+        record.y[i] = static_cast<std::uint8_t>(1 + (2 * row + 11 * k) % 110);
     }
     return record;
-}
-
-std::string bytes_of(const std::string& hex) {
-    std::string bytes;
-    for (std::size_t i = 0; i + 2 <= hex.size(); i += 2) {
-        bytes += static_cast<char>(std::stoi(hex.substr(i, 2), nullptr, 16));
-    }
-    return bytes;
-}
-
-std::string hex_of(const std::string& bytes) {
-    std::string hex;
-    for (const char byte : bytes) {
-        std::array<char, 3> pair{};
-        std::snprintf(pair.data(), pair.size(), "%02X", static_cast<unsigned>(static_cast<unsigned char>(byte)));
-        hex += pair.data();
-    }
-    return hex;
-}
-
-void put(std::string& image, ImagePos position, const std::string& bytes) {
-    image.replace(static_cast<std::size_t>(position - 1), bytes.size(), bytes);
 }
 
 void put(std::string& image, const Stretches& places, const std::string& bytes) {
@@ -136,62 +78,13 @@ void put(std::string& image, const Stretches& places, const std::string& bytes) 
 
 std::string bytes_at(const std::string& image, const Stretches& places) {
     std::string bytes;
-    for (const Stretch& place : places) {
+    for (const Piece& place : places) {
         bytes += image.substr(static_cast<std::size_t>(place.position - 1), static_cast<std::size_t>(place.bytes));
     }
     return bytes;
 }
 
-::testing::AssertionResult same_bytes(const std::string& actual, const std::string& expected) {
-    if (actual == expected) return ::testing::AssertionSuccess();
-    const auto positions = test::differences(expected, actual);
-    auto result = ::testing::AssertionFailure() << positions.size() << " bytes differ, the first at";
-    for (std::size_t i = 0; i < positions.size() && i < 8; ++i) result << ' ' << positions[i];
-    return result;
-}
-
-int error_of(const std::function<void()>& steps) {
-    try {
-        steps();
-    } catch (const RuntimeError& failure) {
-        return failure.number();
-    }
-    return 0;
-}
-
-Home::Home() {
-    static std::atomic<int> count{0};
-    const auto name = "kalco-formations-" + std::to_string(::getpid()) + '-' + std::to_string(count++);
-    const auto path = std::filesystem::temp_directory_path() / name;
-    std::filesystem::create_directories(path);
-    path_ = path.string();
-}
-
-Home::~Home() {
-    std::error_code failure;
-    std::filesystem::remove_all(path_, failure);
-}
-
-std::string Home::write(const std::string& name, const std::string& contents) const {
-    std::ofstream(path_ + '/' + name, std::ios::binary) << contents;
-    return path_ + '/' + name;
-}
-
-bool Home::has(const std::string& name) const {
-    return std::filesystem::exists(path_ + '/' + name);
-}
-
-std::string Home::read(const std::string& name) const {
-    std::ostringstream text;
-    text << std::ifstream(path_ + '/' + name, std::ios::binary).rdbuf();
-    return text.str();
-}
-
-FormationTab::FormationTab(std::string image) : editor(platform, test::opener_of(disc)) {
-    disc.bytes = std::move(image);
-    platform.home = home.path();
-    platform.choices.emplace_back("disc.bin");
-    user::start(form);
+FormationTab::FormationTab(const std::string& image) : EditorRun(image) {
     select_tab(tab::formations);
 }
 
@@ -204,13 +97,6 @@ int FormationTab::press_until_refused(CommandButton& arrow) {
     }
     ADD_FAILURE() << arrow.name() << " never refuses";
     return -1;
-}
-
-std::vector<std::string> FormationTab::told() {
-    std::vector<std::string> texts;
-    for (const auto& message : platform.messages) texts.push_back(message.text);
-    platform.messages.clear();
-    return texts;
 }
 
 std::string FormationTab::captions() const {
@@ -236,7 +122,7 @@ std::size_t at(int marker) {
     return static_cast<std::size_t>(marker - first_marker);
 }
 
-void expect_record_shown(const FormationTab& tab, const Record& record) {
+void expect_record_shown(const FormationTab& tab, const Formation& record) {
     for (int k = first_marker; k <= last_marker; ++k) {
         const PitchMarker& marker = tab.form.lblGioc(k);
         const int code = record.roles[at(k)];
@@ -259,9 +145,9 @@ int selected_marker(const frmKalco& form) {
     return found;
 }
 
-std::string image_with(int row, const Record& record) {
+std::string image_with(int row, const Formation& record) {
     std::string image = filled_image();
-    put(image, printed_formation(row), record.bytes());
+    put(image, printed_formation(row), pack_formation(record));
     return image;
 }
 

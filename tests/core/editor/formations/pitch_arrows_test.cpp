@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "core/editor/formations/formation_tab.h"
+#include "disc/codec/hextext.h"
 #include "disc/formation.h"
 
 namespace kalco {
@@ -13,10 +14,10 @@ using namespace formation_tests;
 using Texts = std::vector<std::string>;
 
 /// One marker stands at the place; the others do not matter.
-Record record_with(int marker, int x, int y) {
-    Record record = record_of_row(10);
-    record.x[at(marker)] = x;
-    record.y[at(marker)] = y;
+Formation record_with(int marker, int x, int y) {
+    Formation record = record_of_row(10);
+    record.x[at(marker)] = static_cast<std::uint8_t>(x);
+    record.y[at(marker)] = static_cast<std::uint8_t>(y);
     return record;
 }
 
@@ -33,7 +34,7 @@ Stop run_into(CommandButton frmKalco::*arrow, int x, int y) {
     tab.click(tab.form.lblGioc(5));
     CommandButton& button = tab.form.*arrow;
     const bool sideways = &button == &tab.form.cmdLeft || &button == &tab.form.cmdRight;
-    Record record = record_with(5, x, y);
+    Formation record = record_with(5, x, y);
     const int moves = tab.press_until_refused(button);
     const PitchMarker& marker = tab.form.lblGioc(5);
     EXPECT_EQ(sideways ? marker.top() : marker.left(), sideways ? screen_top(y) : screen_left(x));
@@ -114,7 +115,7 @@ TEST(PitchArrows, LoseTheirDriftWhenTheRecordIsReadAgain) {
 
 TEST(PitchArrows, WriteAValueBelowZeroAsEightDigits) {
     for (const int row : {10, 32}) {
-        Record record = record_of_row(row);
+        Formation record = record_of_row(row);
         record.x[9] = 255;
         FormationTab tab(image_with(row, record));
         tab.choose(row);
@@ -122,10 +123,10 @@ TEST(PitchArrows, WriteAValueBelowZeroAsEightDigits) {
         EXPECT_EQ(tab.press_until_refused(tab.form.cmdLeft), 256);
         const std::string before = tab.disc.bytes;
         tab.click(tab.form.cmdModifica);
-        const std::string bytes = record.bytes();
-        const std::string text = bytes.substr(0, 19) + bytes_of("FFFFFFFF") + bytes.substr(20);
+        const std::string bytes = pack_formation(record);
+        const std::string text = bytes.substr(0, 19) + bytes_of_digits("FFFFFFFF") + bytes.substr(20);
         ASSERT_EQ(text.size(), 33U);
-        EXPECT_TRUE(same_bytes(tab.disc.bytes, image_after(before, row, text))) << row;
+        EXPECT_TRUE(same_image(tab.disc.bytes, image_after(before, row, text))) << row;
     }
 }
 
@@ -167,7 +168,7 @@ TEST(PitchArrows, ActOnMarker11AfterAnExport) {
     EXPECT_EQ(tab.form.SelectedMarker, 11);
     tab.click(tab.form.cmdRight);
     tab.pick(tab.form.cboRL, 3);
-    Record record = record_of_row(10);
+    Formation record = record_of_row(10);
     EXPECT_EQ(tab.form.FormationX[11], record.x[9] + 1);
     EXPECT_EQ(tab.form.FormationX[4], record.x[2]);
     EXPECT_EQ(tab.form.lblGioc(11).caption(), "LIB");

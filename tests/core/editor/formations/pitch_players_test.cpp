@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "core/editor/formations/formation_tab.h"
+#include "disc/codec/hextext.h"
 
 namespace kalco {
 namespace {
@@ -65,8 +66,8 @@ TEST(PitchPlayers, OfClubsAreTheirLinks) {
     std::string image = filled_image();
     // Aston Villa's slots 2..11 point at the players 22, 21, ... of Australia; slot 11 at nobody.
     std::string links;
-    for (int slot = 1; slot <= 23; ++slot) links += bytes_of("35") + static_cast<char>(24 - slot);
-    links.replace(20, 2, bytes_of("FFFF"));
+    for (int slot = 1; slot <= 23; ++slot) links += bytes_of_digits("35") + static_cast<char>(24 - slot);
+    links.replace(20, 2, bytes_of_digits("FFFF"));
     put(image, Stretches{{2013005, 28}, {2013337, 18}}, links);
     for (int player = 0; player < 23; ++player) {
         const std::string name = name_of(53, player);

@@ -14,17 +14,17 @@ using Texts = std::vector<std::string>;
 TEST(PitchCoordinates, TakeAnyByteThereAndBack) {
     for (int base = 0; base < 256; base += 10) {
         for (const int row : {7, 32, 60, 86}) {
-            Record record = record_of_row(row);
+            Formation record = record_of_row(row);
             for (int i = 0; i < 10; ++i) {
-                record.x[static_cast<std::size_t>(i)] = (base + i) % 256;
-                record.y[static_cast<std::size_t>(i)] = 255 - (base + i) % 256;
+                record.x[static_cast<std::size_t>(i)] = static_cast<std::uint8_t>(base + i);
+                record.y[static_cast<std::size_t>(i)] = static_cast<std::uint8_t>(255 - (base + i) % 256);
             }
             const std::string image = image_with(row, record);
             FormationTab tab(image);
             tab.choose(row);
             expect_record_shown(tab, record);
             tab.click(tab.form.cmdModifica);
-            EXPECT_TRUE(same_bytes(tab.disc.bytes, image)) << row << ' ' << base;
+            EXPECT_TRUE(same_image(tab.disc.bytes, image)) << row << ' ' << base;
         }
     }
 }
@@ -34,7 +34,7 @@ TEST(UnknownRoles, ShortenTheRecordThatIsWritten) {
                                                      {2, 3}, {4, 7, 11}, {2, 3, 4, 5, 6, 7, 8, 9, 10, 11}};
     for (const auto& unknown : unknown_sets) {
         for (const int row : {0, 5, 31, 32, 33, 85, 86}) {
-            Record record = record_of_row(row);
+            Formation record = record_of_row(row);
             int code = 0;
             for (const int k : unknown) record.roles[at(k)] = code++ % 2 == 0 ? 0x16 : 0x01;
             const std::string image = image_with(row, record);
@@ -46,16 +46,16 @@ TEST(UnknownRoles, ShortenTheRecordThatIsWritten) {
             for (const int role : record.roles) {
                 if (role >= 0x02 && role <= 0x15) text += static_cast<char>(role);
             }
-            text += record.bytes().substr(10);
+            text += pack_formation(record).substr(10);
             ASSERT_EQ(text.size(), 30 - unknown.size());
-            EXPECT_TRUE(same_bytes(tab.disc.bytes, image_after(image, row, text))) << row << ' ' << unknown.size();
+            EXPECT_TRUE(same_image(tab.disc.bytes, image_after(image, row, text))) << row << ' ' << unknown.size();
             EXPECT_EQ(tab.told(), Texts{saved});
         }
     }
 }
 
 TEST(UnknownRoles, OnTheSplitRowPutOneByteIntoBothPieces) {
-    Record record = record_of_row(32);
+    Formation record = record_of_row(32);
     record.roles[3] = 0x16;
     FormationTab tab(image_with(32, record));
     tab.choose(32);
@@ -73,7 +73,7 @@ TEST(UnknownRoles, OnTheSplitRowPutOneByteIntoBothPieces) {
 }
 
 TEST(UnknownRoles, CanBeGivenARole) {
-    Record record = record_of_row(5);
+    Formation record = record_of_row(5);
     record.roles[0] = 0xFF;
     FormationTab tab(image_with(5, record));
     tab.choose(5);
@@ -81,7 +81,7 @@ TEST(UnknownRoles, CanBeGivenARole) {
     tab.pick(tab.form.cboRL, 18);
     tab.click(tab.form.cmdModifica);
     record.roles[0] = 0x14;
-    EXPECT_TRUE(same_bytes(tab.disc.bytes, image_with(5, record)));
+    EXPECT_TRUE(same_image(tab.disc.bytes, image_with(5, record)));
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "core/editor/formations/formation_tab.h"
+#include "disc/codec/hextext.h"
 #include "disc/formation.h"
 
 namespace kalco {
@@ -54,7 +55,7 @@ TEST_P(PitchOfEveryRow, ShowsTheRecord) {
     EXPECT_EQ(tab.form.fraImpExp.enabled(), row != 86);
     EXPECT_FALSE(tab.form.fraCord.enabled() || tab.form.cboRL.enabled());
     EXPECT_EQ(tab.form.cboRL.text() + tab.form.cboMod.text() + tab.form.lblNameG.caption(), "");
-    EXPECT_TRUE(same_bytes(tab.disc.bytes, filled_image()));
+    EXPECT_TRUE(same_image(tab.disc.bytes, filled_image()));
     EXPECT_EQ(tab.disc.writes, 0);
 }
 
@@ -64,7 +65,7 @@ TEST_P(PitchOfEveryRow, SavesItsOwnRecordAndNothingElse) {
     FormationTab tab;
     tab.choose(row);
     tab.pick(tab.form.cboMod, module);
-    EXPECT_TRUE(same_bytes(tab.disc.bytes, filled_image()));
+    EXPECT_TRUE(same_image(tab.disc.bytes, filled_image()));
     tab.click(tab.form.lblGioc(7));
     tab.pick(tab.form.cboRL, 2);
     tab.click(tab.form.cmdRight);
@@ -73,13 +74,13 @@ TEST_P(PitchOfEveryRow, SavesItsOwnRecordAndNothingElse) {
     tab.click(tab.form.cmdModifica);
 
     const ModuleRow& rows = module_rows[static_cast<std::size_t>(module)];
-    std::string bytes = bytes_of(std::string(rows.roles) + std::string(rows.x) + std::string(rows.y));
+    std::string bytes = bytes_of_digits(std::string(rows.roles) + std::string(rows.x) + std::string(rows.y));
     bytes[5] = 0x04;
     bytes[15] = static_cast<char>(bytes[15] + 2);
     bytes[25] = static_cast<char>(bytes[25] - 1);
     std::string expected = filled_image();
     put(expected, printed_formation(row), bytes);
-    EXPECT_TRUE(same_bytes(tab.disc.bytes, expected));
+    EXPECT_TRUE(same_image(tab.disc.bytes, expected));
     EXPECT_EQ(tab.told(), Texts{saved});
     EXPECT_EQ(tab.disc.flushes, 1);
     EXPECT_TRUE(tab.form.image.is_open());
@@ -96,7 +97,7 @@ TEST_P(PitchOfEveryRow, SavesWhatItReadUnchanged) {
     FormationTab tab;
     tab.choose(GetParam());
     tab.click(tab.form.cmdModifica);
-    EXPECT_TRUE(same_bytes(tab.disc.bytes, filled_image()));
+    EXPECT_TRUE(same_image(tab.disc.bytes, filled_image()));
     EXPECT_GT(tab.disc.writes, 0);
 }
 
@@ -115,8 +116,8 @@ TEST(PitchName, IsTheFullWidthNameOfTheRow) {
 TEST(PitchName, OfPortugalIsDecodedInOneWalk) {
     std::string image = filled_image();
     // The single blank is doubled once in the joined bytes, so that the rest keeps in step.
-    put(image, 2003621, bytes_of("82602082"));
-    put(image, 2003929, bytes_of("618262000000"));
+    put(image, 2003621, bytes_of_digits("82602082"));
+    put(image, 2003929, bytes_of_digits("618262000000"));
     FormationTab tab(image);
     tab.choose(4);
     EXPECT_EQ(tab.form.txtSqHEX2.text(), "A BC  ");
@@ -159,10 +160,10 @@ TEST(PitchRole, ChangesTheCaptionAlone) {
         EXPECT_EQ(tab.form.lblGioc(6).caption(), role_labels[static_cast<std::size_t>(row)]);
         EXPECT_EQ(Invert_Mod(tab.form), role_code(role_labels[static_cast<std::size_t>(row)]));
     }
-    Record record = record_of_row(10);
+    Formation record = record_of_row(10);
     record.roles[at(6)] = 0x15;
     expect_record_shown(tab, record);
-    EXPECT_TRUE(same_bytes(tab.disc.bytes, filled_image()));
+    EXPECT_TRUE(same_image(tab.disc.bytes, filled_image()));
 }
 
 TEST(PitchModule, LaysItsColumns) {
@@ -172,13 +173,8 @@ TEST(PitchModule, LaysItsColumns) {
         tab.click(tab.form.lblGioc(4));
         tab.pick(tab.form.cboMod, row);
         const ModuleRow& module = module_rows[static_cast<std::size_t>(row)];
-        Record record{};
-        for (std::size_t i = 0; i < 10; ++i) {
-            record.roles[i] = std::stoi(std::string(module.roles.substr(2 * i, 2)), nullptr, 16);
-            record.x[i] = std::stoi(std::string(module.x.substr(2 * i, 2)), nullptr, 16);
-            record.y[i] = std::stoi(std::string(module.y.substr(2 * i, 2)), nullptr, 16);
-        }
-        expect_record_shown(tab, record);
+        const std::string digits = std::string(module.roles).append(module.x).append(module.y);
+        expect_record_shown(tab, unpack_formation(bytes_of_digits(digits)));
         EXPECT_EQ(selected_marker(tab.form), 0);
         EXPECT_EQ(tab.form.lblNameG.caption() + tab.form.cboRL.text(), "");
         EXPECT_FALSE(tab.form.fraCord.enabled() || tab.form.cboRL.enabled());
@@ -200,7 +196,7 @@ TEST(PitchModule, ReachesTheImageOnlyBySaving) {
     expect_record_shown(tab, record_of_row(11));
     tab.choose(10);
     expect_record_shown(tab, record_of_row(10));
-    EXPECT_TRUE(same_bytes(tab.disc.bytes, filled_image()));
+    EXPECT_TRUE(same_image(tab.disc.bytes, filled_image()));
     EXPECT_EQ(tab.told(), Texts{});
 }
 
@@ -236,9 +232,10 @@ TEST(PitchSave, StopsAtAFailingWrite) {
                 EXPECT_EQ(error_of([&] { tab.click(tab.form.cmdModifica); }), failure);
                 EXPECT_EQ(tab.told(), Texts{});
                 std::string expected = filled_image();
-                const std::string bytes = bytes_of(std::string(module_rows[4].roles) + std::string(module_rows[4].x));
+                const std::string bytes =
+                    bytes_of_digits(std::string(module_rows[4].roles) + std::string(module_rows[4].x));
                 if (failing == 2) put(expected, 2304661, bytes);
-                EXPECT_TRUE(same_bytes(tab.disc.bytes, expected)) << row;
+                EXPECT_TRUE(same_image(tab.disc.bytes, expected)) << row;
             }
         }
     }
@@ -254,8 +251,9 @@ TEST(PitchSave, AfterACancelledOpenWritesAndThenEndsTheProgram) {
     EXPECT_EQ(tab.told(), Texts{saved});
     std::string expected = filled_image();
     put(expected, printed_formation(10),
-        bytes_of(std::string(module_rows[4].roles) + std::string(module_rows[4].x) + std::string(module_rows[4].y)));
-    EXPECT_TRUE(same_bytes(tab.disc.bytes, expected));
+        bytes_of_digits(std::string(module_rows[4].roles) + std::string(module_rows[4].x) +
+                        std::string(module_rows[4].y)));
+    EXPECT_TRUE(same_image(tab.disc.bytes, expected));
 }
 
 TEST(PitchOfAShortImage, ShowsZeroesAndGrowsByASave) {

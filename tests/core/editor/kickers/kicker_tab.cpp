@@ -1,10 +1,11 @@
 #include "core/editor/kickers/kicker_tab.h"
 
+#include "support/printed_rows.h"
+
 namespace kalco::kicker_tests {
 
 ImagePos printed_position(int row) {
-    if (row == 86) return 2329629;
-    return row < 54 ? 2329057 + 6 * row : 2329429 + 6 * (row - 53);
+    return test::printed_set_pieces(row)[0].position;
 }
 
 const std::string& kicker_image() {

@@ -11,15 +11,6 @@ namespace {
 
 using namespace kicker_tests;
 
-TEST(SetPiecePlaces, AreThePrintedOnes) {
-    for (int row = 0; row < 87; ++row) {
-        EXPECT_EQ(set_piece_field(TeamRow(row)), Pieces(Piece{printed_position(row), 6})) << row;
-    }
-    EXPECT_EQ(set_piece_field(TeamRow(53)).position(), 2329375);
-    EXPECT_EQ(set_piece_field(TeamRow(54)).position(), 2329435);
-    EXPECT_EQ(set_piece_field(TeamRow(85)).position(), 2329621);
-}
-
 TEST(SetPieceTab, ListsTheTeamsOfTheImage) {
     KickerTab tab;
     ASSERT_EQ(tab.form.listAtt.count(), 87);
