@@ -27,10 +27,10 @@ std::string formation_of(const Squad& squad, Random& random) {
     return bytes_of_digits(squad.module->roles) + x + y;
 }
 
-std::vector<std::string> entries_of(const Squad& squad) {
-    std::vector<std::string> entries;
-    for (const int number : squad.numbers) entries.push_back(number_entry(number));
-    return entries;
+StoredNumbers numbers_of(const Squad& squad) {
+    StoredNumbers stored;
+    stored.numbers = squad.numbers;
+    return stored;
 }
 
 /// Players who fit a set piece best, the goalkeeper only as the captain.
@@ -90,15 +90,12 @@ void put_bars(DemoDisc& disc, const World& world, Random& random) {
 void put_numbers(DemoDisc& disc, const World& world) {
     for (const TeamRow row : every<TeamRow>()) {
         const Squad& squad = row == default_team_row ? world.default_team : squad_of(world, team_of(row));
-        const bool nation = is_nation(row);
-        const std::vector<std::string> entries = entries_of(squad);
-        disc.put(number_field(row),
-                 bytes_of_digits(nation ? pack_national_numbers(entries) : pack_club_numbers(entries)));
+        disc.put(number_field(row), pack_numbers(row, numbers_of(squad)));
     }
+    // Packed like a nation's.
     for (Team team(nation_count); has_roster(team); ++team) {
-        const Squad& squad = squad_of(world, team);
         disc.put(field_at(NationalNumberBase + national_number_bytes * team.value(), national_number_bytes),
-                 bytes_of_digits(pack_national_numbers(entries_of(squad))));
+                 pack_numbers(TeamRow(0), numbers_of(squad_of(world, team))));
     }
 }
 

@@ -31,6 +31,19 @@ std::string little_endian(std::uint32_t word) {
     return bytes;
 }
 
+std::string pack_words(const StoredNumbers& stored) {
+    std::string record;
+    for (std::size_t word = 0; word < StoredNumbers::words; ++word) {
+        std::uint32_t bits = stored.spare[word];
+        for (std::size_t field = fields_of_word(word); field-- > 0;) {
+            const auto number = static_cast<std::uint32_t>(stored.numbers[word * fields_in_word + field] - 1);
+            bits = bits << field_bits | (number & field_mask);
+        }
+        record += little_endian(bits);
+    }
+    return record;
+}
+
 }  // namespace
 
 Pieces number_field(TeamRow row) {
@@ -62,19 +75,9 @@ StoredNumbers unpack_numbers(TeamRow row, std::string_view record) {
 }
 
 std::string pack_numbers(TeamRow row, const StoredNumbers& stored) {
+    if (is_nation(row)) return pack_words(stored);
     std::string record;
-    if (!is_nation(row)) {
-        for (const int number : stored.numbers) record += static_cast<char>(number - 1);
-        return record;
-    }
-    for (std::size_t word = 0; word < StoredNumbers::words; ++word) {
-        std::uint32_t bits = stored.spare[word];
-        for (std::size_t field = fields_of_word(word); field-- > 0;) {
-            const auto number = static_cast<std::uint32_t>(stored.numbers[word * fields_in_word + field] - 1);
-            bits = bits << field_bits | (number & field_mask);
-        }
-        record += little_endian(bits);
-    }
+    for (const int number : stored.numbers) record += static_cast<char>(number - 1);
     return record;
 }
 
@@ -87,16 +90,13 @@ void write_numbers(Image& image, TeamRow row, std::string_view bytes) {
 }
 
 std::string pack_national_numbers(const std::vector<std::string>& entries) {
-    std::array<std::uint32_t, StoredNumbers::words> words{};
+    StoredNumbers stored;
     for (std::size_t player = 0; player < entries.size() && player < roster_players; ++player) {
         const std::int64_t number = number_of(entries[player]);
         if (number < 1 || number > most_national_number) throw RuntimeError(error::resource_not_found);
-        const int shift = field_bits * static_cast<int>(player % fields_in_word);
-        words[player / fields_in_word] |= static_cast<std::uint32_t>(number - 1) << shift;
+        stored.numbers[player] = static_cast<int>(number);
     }
-    std::string bytes;
-    for (const std::uint32_t word : words) bytes += little_endian(word);
-    return hex_digits(bytes);
+    return hex_digits(pack_words(stored));
 }
 
 std::string pack_club_numbers(const std::vector<std::string>& entries) {

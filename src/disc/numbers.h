@@ -31,11 +31,18 @@ Pieces number_field(TeamRow row);
 struct StoredNumbers {
     static constexpr std::size_t words = 4;
 
-    std::array<int, club_number_bytes> numbers{};  ///< In roster order.
+    std::array<int, club_number_bytes> numbers = all_ones();  ///< In roster order. A record of zeroes holds ones.
     /// What the words of a nation's record hold above their fields: two bits in the first three, seven in the last one.
     std::array<std::uint32_t, words> spare{};
 
     friend bool operator==(const StoredNumbers&, const StoredNumbers&) = default;
+
+private:
+    static constexpr std::array<int, club_number_bytes> all_ones() {
+        std::array<int, club_number_bytes> ones{};
+        ones.fill(1);
+        return ones;
+    }
 };
 
 /// By masks, nothing misread; missing bytes are 0.
