@@ -21,6 +21,7 @@
 #include "app/widgets/portrait_view.h"
 #include "app/widgets/record_view.h"
 #include "app/widgets/rows_view.h"
+#include "disc/formation_facts.h"
 #include "editor/window/user.h"
 #include "ui_tab0.h"
 #include "ui_tab1.h"
@@ -42,17 +43,15 @@ void add_page(QTabWidget& tabs) {
 
 /// Steps of the arrow buttons that bring a marker nearest to a wished place; each one is a press of a button.
 void drag_marker(frmKalco& form, const PitchMarker& marker, int left, int top) {
-    constexpr int step_right = 102;
-    constexpr int step_down = 31;
     const auto step_towards = [&form](CommandButton& back, CommandButton& forth, int distance, int step) {
         if (std::abs(distance) * 2 <= step) return false;
         return user::click(form, distance < 0 ? back : forth) == user::Outcome::done;
     };
-    for (int before = marker.left(); step_towards(form.cmdLeft, form.cmdRight, left - marker.left(), step_right);
+    for (int before = marker.left(); step_towards(form.cmdLeft, form.cmdRight, left - marker.left(), arrow_step_x);
          before = marker.left()) {
         if (marker.left() == before) break;
     }
-    for (int before = marker.top(); step_towards(form.cmdUp, form.cmdDown, top - marker.top(), step_down);
+    for (int before = marker.top(); step_towards(form.cmdUp, form.cmdDown, top - marker.top(), arrow_step_y);
          before = marker.top()) {
         if (marker.top() == before) break;
     }

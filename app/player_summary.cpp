@@ -12,13 +12,8 @@
 namespace kalco::app {
 namespace {
 
-constexpr std::array<const char*, skill_count> skill_names{
-    "Attacco",   "Difesa",       "Equilibrio",   "Resistenza", "Velocità",       "Accelerazione",
-    "Passaggi",  "Potenza Tiro", "Precis. Tiro", "Elevazione", "Colpi di Testa", "Tecnica",
-    "Dribbling", "Curvare Tiri", "Positivo",     "Reazione"};
-
-void add_fact(PlayerSummary& summary, const char* name, const std::optional<std::string>& value) {
-    if (value) summary.facts << QString::fromUtf8(name) + qt_text(*value);
+void add_fact(PlayerSummary& summary, std::string_view caption, const std::optional<std::string>& value) {
+    if (value) summary.facts << qt_text(caption) + QStringLiteral(": ") + qt_text(*value);
 }
 
 PlayerSummary summary_of_line(const PlayerLine& line) {
@@ -27,14 +22,14 @@ PlayerSummary summary_of_line(const PlayerLine& line) {
     const DecodedPlayer player = decode_player(words);
     PlayerSummary summary;
     summary.name = qt_text(line.name);
-    add_fact(summary, "", player.role);
-    add_fact(summary, "Fuori ruolo: ", player.out_of_role);
-    add_fact(summary, "Età: ", player.age);
-    add_fact(summary, "Altezza: ", player.height);
-    add_fact(summary, "Piede: ", player.foot);
+    if (player.role) summary.facts << qt_text(*player.role);
+    add_fact(summary, out_of_role_bits.caption, player.out_of_role);
+    add_fact(summary, age_bits.caption, player.age);
+    add_fact(summary, height_bits.caption, player.height);
+    add_fact(summary, "Piede", player.foot);
     for (std::size_t i = 0; i < skill_count; ++i) {
         if (player.skills[i])
-            summary.skills.push_back({QString::fromUtf8(skill_names[i]), qt_text(*player.skills[i]).toInt()});
+            summary.skills.push_back({qt_text(skill_bits[i].caption), qt_text(*player.skills[i]).toInt()});
     }
     return summary;
 }

@@ -4,13 +4,13 @@
 
 #include "app/text.h"
 #include "app/widgets/pick_combo.h"
+#include "disc/player_facts.h"
 
 namespace kalco::app {
 namespace {
 
-constexpr int lowest_skill = 12;
-constexpr int skill_steps = 8;
-constexpr int skill_rows = 16;
+constexpr int skill_steps = bits_of(Skill::attack).count();
+/// The lines of text above the skills, apart from the name.
 constexpr int fact_rows = 5;
 
 }  // namespace
@@ -28,7 +28,11 @@ void RecordView::show_player(const PlayerSummary& player) {
 }
 
 int RecordView::skill_name_width() const {
-    return fontMetrics().horizontalAdvance(QStringLiteral("Accelerazione")) + 12;
+    int widest = 0;
+    for (const BitField& skill : skill_bits) {
+        widest = std::max(widest, fontMetrics().horizontalAdvance(qt_text(skill.caption)));
+    }
+    return widest + 12;
 }
 
 int RecordView::number_width() const {
@@ -41,7 +45,8 @@ int RecordView::bar_width() const {
 
 QSize RecordView::sizeHint() const {
     const int line = fontMetrics().height() + 2;
-    return {skill_name_width() + number_width() + bar_width() + 24, line * (1 + fact_rows + skill_rows) + 20};
+    return {skill_name_width() + number_width() + bar_width() + 24,
+            line * (1 + fact_rows + static_cast<int>(skill_count)) + 20};
 }
 
 void RecordView::paintEvent(QPaintEvent*) {

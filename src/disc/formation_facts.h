@@ -18,6 +18,15 @@ inline constexpr int pitch_y_steps = 112;
 inline constexpr int pitch_width = 4920;
 inline constexpr int pitch_height = 3480;
 
+/// One press of an arrow: a step of the value, this many form units on the screen, while the marker stands inside the
+/// limits.
+inline constexpr int arrow_step_x = 102;
+inline constexpr int arrow_step_y = 31;
+inline constexpr int least_left = 102;
+inline constexpr int most_left = 4819;
+inline constexpr int least_top = 31;
+inline constexpr int most_top = 3379;
+
 /// The code of the first role; the labels follow in the order of the codes.
 inline constexpr int first_role_code = 2;
 inline constexpr std::array<std::string_view, 20> role_labels{

@@ -32,6 +32,7 @@ inline constexpr int highest_skill = 19;
 /// A stretch of bits of one of the words (1 to 3), counted from bit 0. `base` is what a stored 0 means.
 struct BitField {
     std::string_view name;
+    std::string_view caption;  ///< What the window calls it, Latin-1; empty for spare bits.
     int word;
     int bit;
     int width;
@@ -50,45 +51,45 @@ inline constexpr int lowest_age = 15;
 inline constexpr int highest_age = 46;
 inline constexpr int highest_cost = 250;
 
-inline constexpr BitField role_bits{"role", 1, 0, 3};
-inline constexpr BitField hair_style_bits{"hair_style", 1, 4, 5};
-inline constexpr BitField hair_colour_bits{"hair_colour", 1, 9, 3};
-inline constexpr BitField beard_style_bits{"beard_style", 1, 13, 3};
-inline constexpr BitField beard_colour_bits{"beard_colour", 1, 17, 3};
-inline constexpr BitField height_bits{"height", 1, 20, 6, lowest_stored_height};
-inline constexpr BitField number_bits{"number", 1, 26, 5, 1};
-inline constexpr BitField out_of_role_bits{"out_of_role", 1, 31, 1};
-inline constexpr BitField skin_bits{"skin", 2, 0, 2};
-inline constexpr BitField build_bits{"build", 2, 2, 3};
-inline constexpr BitField age_bits{"age", 2, 5, 5, lowest_age};
-inline constexpr BitField boots_bits{"boots", 3, 27, 3};
-inline constexpr BitField foot_bits{"foot", 3, 30, 2};
+inline constexpr BitField role_bits{"role", "Ruolo", 1, 0, 3};
+inline constexpr BitField hair_style_bits{"hair_style", "Stile Capelli", 1, 4, 5};
+inline constexpr BitField hair_colour_bits{"hair_colour", "Colore Capelli", 1, 9, 3};
+inline constexpr BitField beard_style_bits{"beard_style", "Stile Barba", 1, 13, 3};
+inline constexpr BitField beard_colour_bits{"beard_colour", "Colore Barba", 1, 17, 3};
+inline constexpr BitField height_bits{"height", "Altezza", 1, 20, 6, lowest_stored_height};
+inline constexpr BitField number_bits{"number", "N\xB0 Maglia", 1, 26, 5, 1};
+inline constexpr BitField out_of_role_bits{"out_of_role", "Fuori ruolo", 1, 31, 1};
+inline constexpr BitField skin_bits{"skin", "Colore Pelle", 2, 0, 2};
+inline constexpr BitField build_bits{"build", "Corporatura", 2, 2, 3};
+inline constexpr BitField age_bits{"age", "Et\xE0", 2, 5, 5, lowest_age};
+inline constexpr BitField boots_bits{"boots", "Colore Scarpa", 3, 27, 3};
+inline constexpr BitField foot_bits{"foot", "Piede pref.", 3, 30, 2};
 inline constexpr std::size_t spare_count = 4;
 inline constexpr std::array<BitField, spare_count> spare_bits{{
-    {"spare_1_3", 1, 3, 1},
-    {"spare_1_12", 1, 12, 1},
-    {"spare_1_16", 1, 16, 1},
-    {"spare_2_13", 2, 13, 1},
+    {"spare_1_3", "", 1, 3, 1},
+    {"spare_1_12", "", 1, 12, 1},
+    {"spare_1_16", "", 1, 16, 1},
+    {"spare_2_13", "", 2, 13, 1},
 }};
 
 /// By Skill.
 inline constexpr std::array<BitField, skill_count> skill_bits{{
-    {"attack", 2, 29, 3, lowest_skill},
-    {"defence", 3, 0, 3, lowest_skill},
-    {"balance", 2, 14, 3, lowest_skill},
-    {"stamina", 2, 17, 3, lowest_skill},
-    {"speed", 2, 23, 3, lowest_skill},
-    {"acceleration", 2, 26, 3, lowest_skill},
-    {"passing", 3, 9, 3, lowest_skill},
-    {"shot_power", 3, 3, 3, lowest_skill},
-    {"shot_accuracy", 3, 6, 3, lowest_skill},
-    {"jump", 3, 18, 3, lowest_skill},
-    {"heading", 3, 15, 3, lowest_skill},
-    {"technique", 3, 12, 3, lowest_skill},
-    {"dribbling", 2, 20, 3, lowest_skill},
-    {"curve", 3, 21, 3, lowest_skill},
-    {"positivity", 3, 24, 3, lowest_skill},
-    {"reaction", 2, 10, 3, lowest_skill},
+    {"attack", "Attacco", 2, 29, 3, lowest_skill},
+    {"defence", "Difesa", 3, 0, 3, lowest_skill},
+    {"balance", "Equilibrio", 2, 14, 3, lowest_skill},
+    {"stamina", "Resistenza", 2, 17, 3, lowest_skill},
+    {"speed", "Velocit\xE0", 2, 23, 3, lowest_skill},
+    {"acceleration", "Accelerazione", 2, 26, 3, lowest_skill},
+    {"passing", "Passaggi", 3, 9, 3, lowest_skill},
+    {"shot_power", "Potenza Tiro", 3, 3, 3, lowest_skill},
+    {"shot_accuracy", "Precis. Tiro", 3, 6, 3, lowest_skill},
+    {"jump", "Elevazione", 3, 18, 3, lowest_skill},
+    {"heading", "Colpi di Testa", 3, 15, 3, lowest_skill},
+    {"technique", "Tecnica", 3, 12, 3, lowest_skill},
+    {"dribbling", "Dribbling", 2, 20, 3, lowest_skill},
+    {"curve", "Curvare Tiri", 3, 21, 3, lowest_skill},
+    {"positivity", "Positivo", 3, 24, 3, lowest_skill},
+    {"reaction", "Reazione", 2, 10, 3, lowest_skill},
 }};
 
 constexpr const BitField& bits_of(Skill skill) {

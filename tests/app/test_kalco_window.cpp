@@ -8,8 +8,10 @@
 #include <QtTest>
 
 #include "app/support/test_window.h"
+#include "app/text.h"
 #include "app/widgets/pick_combo.h"
 #include "disc/runtime_error.h"
+#include "editor/window/general.h"
 #include "editor/window/user.h"
 
 using namespace kalco;
@@ -133,6 +135,28 @@ private Q_SLOTS:
             }
             keys.removeAll(QString());
             QVERIFY2(keys.removeDuplicates() == 0, qPrintable(QString::number(i)));
+        }
+    }
+
+    void the_labels_of_a_player_are_the_captions_of_his_fields() {
+        test::TestWindow t(home_);
+        frmKalco& form = t.form();
+        std::vector<std::pair<const Control*, BitField>> fields{
+            {&form.cboRuolo, role_bits},          {&form.cboOutSide, out_of_role_bits},
+            {&form.cboPelle, skin_bits},          {&form.cboCapelli, hair_style_bits},
+            {&form.cboColCap, hair_colour_bits},  {&form.cboStlBar, beard_style_bits},
+            {&form.cboColBar, beard_colour_bits}, {&form.cboScarpa, boots_bits},
+            {&form.txtAlt, height_bits},          {&form.txtEta, age_bits},
+            {&form.cboFisico, build_bits},        {&form.cboPiede, foot_bits}};
+        const auto combos = skill_combos(form);
+        for (std::size_t i = 0; i < skill_count; ++i) fields.emplace_back(combos[i], skill_bits[i]);
+        const auto labels = t.window.findChildren<QLabel*>();
+        for (const auto& [control, field] : fields) {
+            const auto* const widget = t.binder().widget_of(*control);
+            const auto label = std::find_if(labels.begin(), labels.end(),
+                                            [&](const QLabel* found) { return found->buddy() == widget; });
+            QVERIFY2(label != labels.end(), control->name().c_str());
+            QCOMPARE((*label)->text().remove(u'&'), app::qt_text(field.caption));
         }
     }
 

@@ -12,13 +12,6 @@
 namespace kalco {
 namespace {
 
-constexpr int step_left = 102;
-constexpr int step_top = 31;
-constexpr int least_left = 102;
-constexpr int most_left = 4819;
-constexpr int least_top = 31;
-constexpr int most_top = 3379;
-
 void reset_markers(frmKalco& form) {
     for (int k = first_marker; k <= last_marker; ++k) form.lblGioc(k).set_selected(false);
 }
@@ -55,7 +48,7 @@ void move_selected(frmKalco& form, bool allowed, int x, int y) {
     PitchMarker& marker = form.lblGioc(form.SelectedMarker);
     form.FormationX[index_of(form.SelectedMarker)] += x;
     form.FormationY[index_of(form.SelectedMarker)] += y;
-    marker.move(marker.left() + x * step_left, marker.top() + y * step_top);
+    marker.move(marker.left() + x * arrow_step_x, marker.top() + y * arrow_step_y);
 }
 
 std::string player_of_roster(const frmKalco& form, const PlayerPlace& place) {

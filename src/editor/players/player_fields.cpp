@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "disc/codec/decimal.h"
+#include "disc/player_record.h"
 #include "disc/runtime_error.h"
 #include "editor/window/general.h"
 
@@ -75,12 +76,6 @@ PlayerValues values_of_fields(frmKalco& form) {
 }
 
 }  // namespace
-
-std::array<ComboBox*, skill_count> skill_combos(frmKalco& form) {
-    return {&form.cboAttacco, &form.cboDifesa, &form.cboEquil, &form.cboRes,  &form.cboVel,   &form.cboAcc,
-            &form.cboPass,    &form.cboPot,    &form.cboPrec,  &form.cboElev, &form.cboTesta, &form.cboTecn,
-            &form.cboDribbl,  &form.cboCurv,   &form.cboPosit, &form.cboReaz};
-}
 
 void DecodePlayer(frmKalco& form) {
     const DecodedPlayer player =

@@ -1,8 +1,5 @@
 #pragma once
 
-#include <array>
-
-#include "disc/player_record.h"
 #include "editor/window/frmKalco.h"
 
 /// The player editor's fields: from a record's words to the controls and back.
@@ -10,9 +7,6 @@ namespace kalco {
 
 /// The rows of the fields' pick lists, and the pictures that follow a choice of looks.
 void connect_player_fields(frmKalco& form);
-
-/// The combo boxes of the skills, by Skill.
-std::array<ComboBox*, skill_count> skill_combos(frmKalco& form);
 
 /// Shows the words of Text1 to Text3 in the fields and the pictures. A value that it does not reach leaves its field as
 /// it was; a decoding that stopped on the way raises an error (not 5) after the fields that it reached.

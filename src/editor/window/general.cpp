@@ -32,6 +32,12 @@ void ClearControls(frmKalco& form) {
     }
 }
 
+std::array<ComboBox*, skill_count> skill_combos(frmKalco& form) {
+    return {&form.cboAttacco, &form.cboDifesa, &form.cboEquil, &form.cboRes,  &form.cboVel,   &form.cboAcc,
+            &form.cboPass,    &form.cboPot,    &form.cboPrec,  &form.cboElev, &form.cboTesta, &form.cboTecn,
+            &form.cboDribbl,  &form.cboCurv,   &form.cboPosit, &form.cboReaz};
+}
+
 void fill_blank_player_fields(frmKalco& form) {
     const auto fill = [](auto& control, const char* text) {
         if (control.text().empty()) control.set_text(text);
@@ -39,11 +45,7 @@ void fill_blank_player_fields(frmKalco& form) {
     fill(form.txtAlt, "155");
     fill(form.txtEta, "0");
     fill(form.txtNum, "0");
-    for (ComboBox* skill : {&form.cboAcc, &form.cboAttacco, &form.cboCurv, &form.cboDifesa, &form.cboDribbl,
-                            &form.cboElev, &form.cboEquil, &form.cboPass, &form.cboPosit, &form.cboPot, &form.cboPrec,
-                            &form.cboReaz, &form.cboRes, &form.cboTecn, &form.cboTesta, &form.cboVel}) {
-        fill(*skill, "12");
-    }
+    for (ComboBox* skill : skill_combos(form)) fill(*skill, "12");
 }
 
 void clear_pictures(frmKalco& form) {

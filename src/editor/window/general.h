@@ -1,7 +1,9 @@
 #pragma once
 
+#include <array>
 #include <string>
 
+#include "disc/player_facts.h"
 #include "editor/window/frmKalco.h"
 
 /// Small routines of general use.
@@ -14,7 +16,10 @@ void ProperCase(std::string& text);
 /// Empties the text of every text box, then of every combo box.
 void ClearControls(frmKalco& form);
 
-/// Gives the blank fields of the player their defaults, in the order of their tests.
+/// The combo boxes of the skills, by Skill.
+std::array<ComboBox*, skill_count> skill_combos(frmKalco& form);
+
+/// Gives the blank fields of the player their defaults.
 void fill_blank_player_fields(frmKalco& form);
 
 /// Empties the pictures of the player's looks.

@@ -82,14 +82,11 @@ void Clear_Frame(frmKalco& form) {
     form.txtEta.set_text("15");
     form.txtAlt.set_text("155");
     form.txtName.set_text({});
-    for (ComboBox* combo :
-         {&form.cboRuolo,  &form.cboPelle,  &form.cboFisico,  &form.cboCapelli, &form.cboColCap,  &form.cboStlBar,
-          &form.cboColBar, &form.cboScarpa, &form.cboOutSide, &form.cboPiede,   &form.cboAttacco, &form.cboDifesa,
-          &form.cboEquil,  &form.cboRes,    &form.cboVel,     &form.cboAcc,     &form.cboPass,    &form.cboPot,
-          &form.cboPrec,   &form.cboElev,   &form.cboTesta,   &form.cboTecn,    &form.cboDribbl,  &form.cboCurv,
-          &form.cboPosit,  &form.cboReaz}) {
+    for (ComboBox* combo : {&form.cboRuolo, &form.cboPelle, &form.cboFisico, &form.cboCapelli, &form.cboColCap,
+                            &form.cboStlBar, &form.cboColBar, &form.cboScarpa, &form.cboOutSide, &form.cboPiede}) {
         combo->set_text({});
     }
+    for (ComboBox* combo : skill_combos(form)) combo->set_text({});
     clear_pictures(form);
 }
 

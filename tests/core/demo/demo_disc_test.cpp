@@ -18,6 +18,7 @@
 #include "disc/set_pieces.h"
 #include "disc/team_names.h"
 #include "support/memory_storage.h"
+#include "support/record_words.h"
 
 namespace kalco {
 namespace {
@@ -51,36 +52,11 @@ int byte_of(char value) {
     return static_cast<unsigned char>(value);
 }
 
-Words words_of(const std::string& record) {
-    const auto groups = groups_of_entry(hex_line(record));
-    return {word_of_group(groups[0]), word_of_group(groups[1]), word_of_group(groups[2])};
-}
-
-/// The values of the fields that the editor shows for a record; fails where it shows none.
-PlayerValues read_back(const DecodedPlayer& player) {
-    PlayerValues values;
-    values.role = value_of(role_texts, player.role.value());
-    values.hair_style = value_of(hair_style_texts, player.hair_style.value());
-    values.hair_colour = value_of(hair_colour_texts, player.hair_colour.value());
-    values.beard_style = value_of(beard_texts, player.beard_style);
-    values.beard_colour = value_of(beard_texts, player.beard_colour);
-    values.height = std::stoi(player.height.value());
-    values.number = std::stoi(player.number.value());
-    values.in_role = player.out_of_role.value() == "No";
-    values.skin = value_of(skin_texts, player.skin.value());
-    values.build = value_of(build_texts, player.build.value());
-    values.age = std::stoi(player.age.value());
-    values.boots = value_of(boots_texts, player.boots.value());
-    values.foot = value_of(foot_texts, player.foot.value());
-    for (std::size_t k = 0; k < skill_count; ++k) values.skills[k] = std::stoi(player.skills[k].value());
-    return values;
-}
-
 void expect_legal(const std::string& record, const std::string& where) {
-    const Words words = words_of(record);
+    const Words words = words_of_record(record);
     const DecodedPlayer decoded = decode_player(words);
     ASSERT_FALSE(decoded.stopped) << where;
-    const PlayerValues values = read_back(decoded);
+    const PlayerValues values = test::values_of_texts(decoded);
     EXPECT_EQ(pack_player(values), words) << where;
     EXPECT_GE(values.height, lowest_height) << where;
     EXPECT_LE(values.height, highest_height) << where;
@@ -182,10 +158,10 @@ TEST_F(DemoImage, VariesItsPlayers) {
             const std::string record = image.read(roster_record_field({team, player}));
             records.insert(record);
             names.insert(read_player_name(image, RosterPlace{team, player}));
-            roles.insert(decode_player(words_of(record)).role.value());
+            roles.insert(decode_player(words_of_record(record)).role.value());
         }
         const std::string keeper = image.read(roster_record_field({team, 0}));
-        EXPECT_EQ(decode_player(words_of(keeper)).role, "Portiere") << team.value();
+        EXPECT_EQ(decode_player(words_of_record(keeper)).role, "Portiere") << team.value();
     }
     EXPECT_GT(records.size(), 1380U);
     EXPECT_GT(names.size(), 1000U);
@@ -217,7 +193,7 @@ TEST_F(DemoImage, PutsPlayersWhereTheirFormationWantsThem) {
         for (int k = 0; k < outfield_players; ++k) {
             const std::string_view label = role_label(hex_digits(record.substr(static_cast<std::size_t>(k), 1)));
             const auto role =
-                decode_player(words_of(image.read(roster_record_field({Team(team), k + 1})))).role.value();
+                decode_player(words_of_record(image.read(roster_record_field({Team(team), k + 1})))).role.value();
             EXPECT_EQ(label.substr(0, 2) == "CA", role == "Centravanti") << team << ' ' << k;
             EXPECT_EQ(label.substr(0, 3) == "TER", role == "Terzino") << team << ' ' << k;
         }
@@ -243,7 +219,7 @@ TEST_F(DemoImage, NumbersEveryTeamWithoutRepeats) {
         // A nation's players carry the number in their records too.
         if (!is_nation(TeamRow(row)) || Team(row) == shifted_team) continue;
         for (int player = 0; player < roster_players; ++player) {
-            const DecodedPlayer decoded = decode_player(words_of(image.read(roster_record_field({Team(row), player}))));
+            const DecodedPlayer decoded = decode_player(words_of_record(image.read(roster_record_field({Team(row), player}))));
             EXPECT_EQ(std::stoi(decoded.number.value()), std::stoi(entries[static_cast<std::size_t>(player)]));
         }
     }

@@ -37,7 +37,17 @@ TEST(RecordTable, TellsEveryBitOnceInItsOrder) {
 
 TEST(RecordTable, NamesEveryFieldOnce) {
     std::set<std::string_view> names;
-    for (const BitField& field : record_fields) EXPECT_TRUE(names.insert(field.name).second) << field.name;
+    std::set<std::string_view> captions;
+    std::size_t spare = 0;
+    for (const BitField& field : record_fields) {
+        EXPECT_TRUE(names.insert(field.name).second) << field.name;
+        if (field.caption.empty()) {
+            ++spare;
+        } else {
+            EXPECT_TRUE(captions.insert(field.caption).second) << field.name;
+        }
+    }
+    EXPECT_EQ(spare, spare_count);
 }
 
 TEST(RecordWords, AreLittleEndianAndSigned) {
