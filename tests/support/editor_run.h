@@ -9,7 +9,6 @@
 
 #include "editor/editor.h"
 #include "editor/window/user.h"
-#include "support/error_of.h"
 #include "support/fake_platform.h"
 #include "support/filled_disc.h"
 #include "support/memory_storage.h"

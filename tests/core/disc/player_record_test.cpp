@@ -6,7 +6,7 @@
 
 #include "disc/codec/hextext.h"
 #include "disc/runtime_error.h"
-#include "support/error_of.h"
+#include "support/outcome.h"
 #include "support/record_words.h"
 
 namespace kalco {

@@ -7,7 +7,7 @@
 
 #include "disc/codec/hextext.h"
 #include "disc/runtime_error.h"
-#include "support/error_of.h"
+#include "support/outcome.h"
 
 namespace kalco {
 namespace {

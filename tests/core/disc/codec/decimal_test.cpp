@@ -6,7 +6,7 @@
 #include <string>
 
 #include "disc/runtime_error.h"
-#include "support/error_of.h"
+#include "support/outcome.h"
 
 namespace kalco {
 namespace {

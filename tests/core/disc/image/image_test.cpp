@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "disc/runtime_error.h"
-#include "support/error_of.h"
 #include "support/memory_storage.h"
+#include "support/outcome.h"
 
 namespace kalco {
 namespace {

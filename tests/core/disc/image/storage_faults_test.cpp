@@ -4,7 +4,7 @@
 
 #include "disc/image/storage.h"
 #include "disc/runtime_error.h"
-#include "support/error_of.h"
+#include "support/outcome.h"
 #include "support/system_faults.h"
 #include "support/temporary_home.h"
 

@@ -14,7 +14,7 @@
 #include <functional>
 
 #include "disc/runtime_error.h"
-#include "support/error_of.h"
+#include "support/outcome.h"
 #include "support/temporary_home.h"
 
 namespace kalco {

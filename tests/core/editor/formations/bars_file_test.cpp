@@ -355,7 +355,7 @@ TEST(BarsImport, StopsAtAFailingWrite) {
         std::string expected = filled_image();
         for (std::size_t half = 0; half < 2; ++half) {
             std::size_t done = 0;
-            for (const Stretch& place : places_in_order[half]) {
+            for (const Piece& place : places_in_order[half]) {
                 FormationTab tab;
                 tab.choose(row);
                 tab.disc.failing_write = ++write;

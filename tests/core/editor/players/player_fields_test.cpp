@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "editor/window/general.h"
 #include "support/editor_run.h"
 
 namespace kalco {

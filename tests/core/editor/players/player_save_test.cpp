@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "disc/codec/hextext.h"
-#include "editor/players/player_fields.h"
+#include "editor/window/general.h"
 #include "support/disc_tables.h"
 #include "support/editor_run.h"
 

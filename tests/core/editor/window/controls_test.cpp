@@ -5,7 +5,7 @@
 #include <stdexcept>
 
 #include "disc/runtime_error.h"
-#include "support/error_of.h"
+#include "support/outcome.h"
 
 namespace kalco {
 namespace {

@@ -5,8 +5,8 @@
 #include <unistd.h>
 
 #include "disc/runtime_error.h"
-#include "support/error_of.h"
 #include "support/fake_platform.h"
+#include "support/outcome.h"
 #include "support/temporary_home.h"
 
 namespace kalco {
