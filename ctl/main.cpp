@@ -9,6 +9,10 @@
 
 #include "ctl/command.h"
 #include "ctl/demo_command.h"
+#include "ctl/diff_command.h"
+#include "ctl/export_command.h"
+#include "ctl/find_command.h"
+#include "ctl/import_command.h"
 #include "ctl/script/script_options.h"
 #include "ctl/script/script_runner.h"
 #include "disc/image/process.h"
@@ -30,6 +34,10 @@ public:
     explicit Commands(CLI::App& app) {
         add(script::add_script_command(app, script_), [this] { return script::play_script(script_, run_on_model); });
         add(demo::add_demo_command(app, demo_), [this] { return demo::run_demo(demo_); });
+        add(ctl::add_export_command(app, export_), [this] { return ctl::run_export(export_); });
+        add(ctl::add_import_command(app, import_), [this] { return ctl::run_import(import_); });
+        add(ctl::add_diff_command(app, diff_), [this] { return ctl::run_diff(diff_); });
+        add(ctl::add_find_command(app, find_), [this] { return ctl::run_find(find_); });
     }
     Commands(const Commands&) = delete;
     Commands& operator=(const Commands&) = delete;
@@ -62,6 +70,10 @@ private:
     std::vector<Entry> entries_;
     script::ScriptOptions script_;
     demo::DemoOptions demo_;
+    ctl::ExportOptions export_;
+    ctl::ImportCommandOptions import_;
+    ctl::DiffOptions diff_;
+    ctl::FindCommandOptions find_;
 };
 
 int run(int argc, char** argv) {

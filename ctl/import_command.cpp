@@ -1,0 +1,74 @@
+#include "ctl/import_command.h"
+
+#include <iostream>
+
+#include "ctl/command.h"
+#include "ctl/open_image.h"
+#include "ctl/table_formats.h"
+#include "ctl/table_json.h"
+#include "ctl/table_options.h"
+
+namespace kalco::ctl {
+namespace {
+
+constexpr std::string_view name = "import";
+
+void complain_of(const std::string& file, const TableMistake& mistake) {
+    std::string place = file;
+    if (mistake.row > 0) place += ':' + std::to_string(mistake.row) + ':' + mistake.column;
+    complain(name, place + ": " + mistake.what);
+}
+
+}  // namespace
+
+CLI::App& add_import_command(CLI::App& app, ImportCommandOptions& options) {
+    CLI::App& command = *app.add_subcommand(std::string(name), "Take tables into the image");
+    command.add_option("IMAGE", options.image, "The image to change")->required();
+    command.add_option("FILE", options.file, "CSV, FODS or JSON, as export and diff write them")->required();
+    add_sheet_option(command, options.sheet);
+    command.add_flag("--dry-run", options.dry_run, "Tell everything, write nothing");
+    command.add_option("--keep-undo", options.keep_undo, "Also make a patch that takes the import back")
+        ->type_name("FILE.ppf");
+    command.add_flag("--force", options.force, "Go on where `rev` tells that someone else changed a record");
+    command.add_flag("--json", options.json, "Tell the changes as JSON, one a line");
+    command.footer(
+        "Rows are found by id and columns by name; what the file lacks stays as it is, and so does a field with an\n"
+        "empty cell. Everything is checked before anything is written. A CSV is the sheet of the players unless "
+        "--sheet\n"
+        "names another.\n\n"
+        "Examples:\n"
+        "  kalcoctl import game.bin players.csv --dry-run\n"
+        "  kalcoctl import game.bin players.csv --keep-undo before.ppf\n"
+        "  kalcoctl import game.bin teams.csv --sheet teams");
+    return command;
+}
+
+int run_import(const ImportCommandOptions& options) {
+    Tables tables;
+    try {
+        tables = read_tables(options.file);
+    } catch (const TableError& error) {
+        complain_of(options.file, error.mistake());
+        return no;
+    }
+    Image image(options.dry_run ? open_to_read : open_to_write);
+    open_image(image, options.image, name);
+    const DiscBytes before = read_sheets(image);
+    const ImportPlan plan = plan_import(before, tables, {options.sheet, options.force});
+    for (const TableMistake& mistake : plan.mistakes) complain_of(options.file, mistake);
+    if (!plan.mistakes.empty()) return no;
+    if (!options.dry_run) {
+        for (const DiscBytes::Run& run : differences(before, plan.after)) image.write(run.position, run.bytes);
+        image.commit();
+    }
+    for (const FieldChange& change : plan.changes) {
+        if (options.json) {
+            std::cout << json_of_change(change).dump() << '\n';
+        } else {
+            std::cout << line_of(change) << '\n';
+        }
+    }
+    return done;
+}
+
+}  // namespace kalco::ctl

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <vector>
+
+#include "disc/image/image.h"
+
+namespace kalco {
+
+/// Neighbouring bytes that differ.
+struct ByteRun {
+    ImagePos position = 0;
+    std::int64_t bytes = 0;
+
+    friend bool operator==(const ByteRun&, const ByteRun&) = default;
+};
+
+/// Where two images differ outside all fields of the sheets, from the first position on. A byte counts when a bit of it
+/// that is no field's differs, and what only one of them has differs too; EDC and parities don't count. `progress` is
+/// told the bytes that are compared.
+std::vector<ByteRun> other_differences(const Image& a, const Image& b,
+                                       const std::function<void(std::int64_t done, std::int64_t all)>& progress = {});
+
+}  // namespace kalco
