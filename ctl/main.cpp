@@ -7,12 +7,14 @@
 #include <string>
 #include <vector>
 
+#include "ctl/check_command.h"
 #include "ctl/command.h"
 #include "ctl/demo_command.h"
 #include "ctl/diff_command.h"
 #include "ctl/export_command.h"
 #include "ctl/find_command.h"
 #include "ctl/import_command.h"
+#include "ctl/repair_command.h"
 #include "ctl/script/script_options.h"
 #include "ctl/script/script_runner.h"
 #include "disc/image/process.h"
@@ -38,6 +40,8 @@ public:
         add(ctl::add_import_command(app, import_), [this] { return ctl::run_import(import_); });
         add(ctl::add_diff_command(app, diff_), [this] { return ctl::run_diff(diff_); });
         add(ctl::add_find_command(app, find_), [this] { return ctl::run_find(find_); });
+        add(ctl::add_check_command(app, check_), [this] { return ctl::run_check(check_); });
+        add(ctl::add_repair_command(app, repair_), [this] { return ctl::run_repair(repair_); });
     }
     Commands(const Commands&) = delete;
     Commands& operator=(const Commands&) = delete;
@@ -74,6 +78,8 @@ private:
     ctl::ImportCommandOptions import_;
     ctl::DiffOptions diff_;
     ctl::FindCommandOptions find_;
+    ctl::CheckOptions check_;
+    ctl::RepairOptions repair_;
 };
 
 int run(int argc, char** argv) {

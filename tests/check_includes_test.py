@@ -22,6 +22,7 @@ class IncludeRule(unittest.TestCase):
             "src/disc/runtime_error.h": "#include <string>\n",
             "src/disc/image/image.h": '#include "disc/runtime_error.h"\n',
             "src/disc/image/storage.cpp": "#include <unistd.h>\n",
+            "src/work/check/edc.cpp": "#include <immintrin.h>\n",
             "src/disc/roster.h": '#include "disc/image/image.h"\n#include <vector>\n',
             "ctl/main.cpp": "#include <CLI/CLI.hpp>\n",
             "app/main.cpp": "#include <QApplication>\n",
@@ -47,6 +48,8 @@ class IncludeRule(unittest.TestCase):
     def test_foreign_headers(self):
         self.assert_one({"src/editor/window/a.h": "#include <QString>\n"}, "<QString>")
         self.assert_one({"src/editor/window/a.cpp": "#include <unistd.h>\n"}, "<unistd.h>")
+        self.assert_one({"src/work/check/a.h": "#include <immintrin.h>\n"}, "<immintrin.h>")
+        self.assert_one({"src/work/a.cpp": "#include <immintrin.h>\n"}, "<immintrin.h>")
         self.assert_one({"ctl/main.cpp": "#include <QtCore/QString>\n"}, "Qt")
         self.assert_one({"app/main.cpp": "#include <CLI/CLI.hpp>\n"}, "command line")
 

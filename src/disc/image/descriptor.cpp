@@ -1,6 +1,8 @@
 #include "disc/image/descriptor.h"
 
+#include <algorithm>
 #include <cerrno>
+#include <cstddef>
 
 namespace kalco {
 namespace {
@@ -30,7 +32,7 @@ int Descriptor::lock() const {
     return -after_signals([this] { return files_->lock(descriptor_); });
 }
 
-int Descriptor::read(std::string& bytes, std::int64_t offset, std::size_t& got) const {
+int Descriptor::read(std::span<char> bytes, std::int64_t offset, std::size_t& got) const {
     for (got = 0; got < bytes.size();) {
         const std::int64_t result = after_signals([&] {
             return files_->read(descriptor_, bytes.data() + got, bytes.size() - got,
@@ -40,7 +42,7 @@ int Descriptor::read(std::string& bytes, std::int64_t offset, std::size_t& got) 
         if (result == 0) break;
         got += static_cast<std::size_t>(result);
     }
-    bytes.replace(got, bytes.size() - got, bytes.size() - got, '\0');
+    std::fill(bytes.begin() + static_cast<std::ptrdiff_t>(got), bytes.end(), '\0');
     return 0;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -28,7 +29,7 @@ public:
     int about(FileSystem::About& about) const { return -files_->about(descriptor_, about); }
     int lock() const;
     /// Fills `bytes`; what lies beyond the end is zero. `got` counts the bytes that lie before it.
-    int read(std::string& bytes, std::int64_t offset, std::size_t& got) const;
+    int read(std::span<char> bytes, std::int64_t offset, std::size_t& got) const;
     int write(std::string_view bytes, std::int64_t offset) const;
     int truncate(std::int64_t size) const;
     int sync() const;

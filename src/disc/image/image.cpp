@@ -28,16 +28,20 @@ auto Image::guarded(Steps steps) const {
     try {
         return steps(storage());
     } catch (...) {
-        buffer_.begin(0);
+        if (!buffer_.empty()) buffer_.begin(0);
         throw;
     }
 }
 
 std::string Image::read(ImagePos position, int bytes) const {
-    std::string result =
-        guarded([&](Storage& below) { return below.read(position - 1, static_cast<std::size_t>(bytes)); });
-    if (!buffer_.empty()) buffer_.overlay(position - 1, result);
+    std::string result(static_cast<std::size_t>(bytes), '\0');
+    read_into(position, result);
     return result;
+}
+
+void Image::read_into(ImagePos position, std::span<char> bytes) const {
+    guarded([&](Storage& below) { below.read_into(position - 1, bytes); });
+    if (!buffer_.empty()) buffer_.overlay(position - 1, bytes);
 }
 
 std::string Image::read(const Pieces& field) const {

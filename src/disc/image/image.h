@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -46,6 +47,8 @@ public:
     Beside found() const { return storage().found(); }
 
     std::string read(ImagePos position, int bytes) const;
+    /// As many bytes as there is room for. Several threads may do this at a time while nothing is written.
+    void read_into(ImagePos position, std::span<char> bytes) const;
     std::string read(const Pieces& field) const;
 
     void write(ImagePos position, std::string_view bytes);

@@ -29,7 +29,7 @@ constexpr std::uint8_t bcd(std::int64_t value) {
 }
 
 std::string two_digits(std::int64_t value) {
-    return (value < 10 ? "0" : "") + std::to_string(value);
+    return std::string(value < 10 ? 1 : 0, '0') + std::to_string(value);
 }
 
 }  // namespace

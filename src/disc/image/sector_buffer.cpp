@@ -48,7 +48,7 @@ void SectorBuffer::set_length(std::int64_t length) {
     length_ = length;
 }
 
-void SectorBuffer::overlay(std::int64_t offset, std::string& bytes) const {
+void SectorBuffer::overlay(std::int64_t offset, std::span<char> bytes) const {
     if (bytes.empty()) return;
     const auto end = offset + static_cast<std::int64_t>(bytes.size());
     for (auto held = sectors_.lower_bound(offset / sector_bytes);
@@ -57,8 +57,7 @@ void SectorBuffer::overlay(std::int64_t offset, std::string& bytes) const {
         const std::int64_t start = std::max(offset, sector_start);
         const std::int64_t stop = std::min(end, sector_start + sector_bytes);
         const auto count = static_cast<std::size_t>(stop - start);
-        bytes.replace(static_cast<std::size_t>(start - offset), count, held->second.now,
-                      static_cast<std::size_t>(start - sector_start), count);
+        held->second.now.copy(bytes.data() + (start - offset), count, static_cast<std::size_t>(start - sector_start));
     }
 }
 

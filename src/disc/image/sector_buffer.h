@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <functional>
 #include <map>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -29,7 +30,7 @@ public:
     /// Cuts the image or extends it by zeroes. Bytes that are cut off and not held must be zero.
     void set_length(std::int64_t length);
     /// Puts what is held over bytes that were read from below.
-    void overlay(std::int64_t offset, std::string& bytes) const;
+    void overlay(std::int64_t offset, std::span<char> bytes) const;
 
     /// The sectors that are not as they were.
     std::vector<SectorChange> changes() const;

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -31,6 +33,11 @@ public:
 
     /// Exactly `bytes` bytes; those beyond the end are zero. Error 57 when the system refuses.
     virtual std::string read(std::int64_t offset, std::size_t bytes) = 0;
+    /// The same into `bytes`. Several threads may do this at a time.
+    virtual void read_into(std::int64_t offset, std::span<char> bytes) {
+        const std::string read_bytes = read(offset, bytes.size());
+        std::copy(read_bytes.begin(), read_bytes.end(), bytes.begin());
+    }
     /// Writes all bytes, extending the file if need be. Error 61 when there is no room, 57 for any other refusal.
     virtual void write(std::int64_t offset, std::string_view bytes) = 0;
     /// The file's length in bytes. Errors as for read.

@@ -59,9 +59,13 @@ void write_back(const journal::Reader& journal, Storage& image) {
 
 std::string StoredFile::read(std::int64_t offset, std::size_t bytes) {
     std::string result(bytes, '\0');
-    std::size_t got = 0;
-    if (const int failure = file_.read(result, offset, got)) failures_.system(failure, offset + 1);
+    read_into(offset, result);
     return result;
+}
+
+void StoredFile::read_into(std::int64_t offset, std::span<char> bytes) {
+    std::size_t got = 0;
+    if (const int failure = file_.read(bytes, offset, got)) failures_.system(failure, offset + 1);
 }
 
 void StoredFile::write(std::int64_t offset, std::string_view bytes) {
@@ -162,10 +166,9 @@ ReadOnlyFile::ReadOnlyFile(Descriptor file, Failures failures, const JournalPlac
     before_.set_length(journal.lengths().before);
 }
 
-std::string ReadOnlyFile::read(std::int64_t offset, std::size_t bytes) {
-    std::string result = StoredFile::read(offset, bytes);
-    before_.overlay(offset, result);
-    return result;
+void ReadOnlyFile::read_into(std::int64_t offset, std::span<char> bytes) {
+    StoredFile::read_into(offset, bytes);
+    before_.overlay(offset, bytes);
 }
 
 bool ReadOnlyFile::keep_journal(const Save& /*save*/) {

@@ -16,7 +16,8 @@ class StoredFile : public Storage {
 public:
     StoredFile(Descriptor file, Failures failures) : file_(std::move(file)), failures_(std::move(failures)) {}
 
-    std::string read(std::int64_t offset, std::size_t bytes) override;
+    std::string read(std::int64_t offset, std::size_t bytes) final;
+    void read_into(std::int64_t offset, std::span<char> bytes) override;
     void write(std::int64_t offset, std::string_view bytes) override;
     std::int64_t size() override { return about().size; }
     void truncate(std::int64_t size) override;
@@ -54,7 +55,7 @@ class ReadOnlyFile final : public StoredFile {
 public:
     ReadOnlyFile(Descriptor file, Failures failures, const JournalPlace& place);
 
-    std::string read(std::int64_t offset, std::size_t bytes) override;
+    void read_into(std::int64_t offset, std::span<char> bytes) override;
     std::int64_t size() override { return before_.length(); }
     bool keep_journal(const Save& save) override;
 
