@@ -56,20 +56,28 @@ std::string read_file(const std::string& path, std::size_t most_bytes) {
     }
 }
 
-void write_output(const std::string& path, std::string_view bytes, std::span<const std::string> images) {
-    if (path.empty()) {
-        std::cout << bytes;
-        return;
-    }
+std::string output_target(const std::string& path, std::span<const std::string> images) {
     std::error_code ignored;
     for (const std::string& image : images) {
         if (fs::equivalent(path, image, ignored)) throw FileError(path, "that is the image itself");
     }
     const fs::file_status status = fs::status(path, ignored);
     if (fs::is_directory(status)) throw FileError(path, "that is a directory");
-    if (fs::exists(status) && !fs::is_regular_file(status)) return write_through(path, bytes);
-    const fs::path target = fs::exists(status) ? fs::canonical(path) : fs::path(path);
-    PartialFile file(target.string());
+    if (!fs::exists(status)) return path;
+    if (!fs::is_regular_file(status)) throw FileError(path, "that is no plain file");
+    return fs::canonical(path).string();
+}
+
+void write_output(const std::string& path, std::string_view bytes, std::span<const std::string> images) {
+    if (path.empty()) {
+        std::cout << bytes;
+        return;
+    }
+    std::error_code ignored;
+    const fs::file_status status = fs::status(path, ignored);
+    const bool device = fs::exists(status) && !fs::is_regular_file(status) && !fs::is_directory(status);
+    if (device) return write_through(path, bytes);
+    PartialFile file(output_target(path, images));
     file.write(bytes);
     file.finish(true);
 }

@@ -16,4 +16,8 @@ std::string read_file(const std::string& path, std::size_t most_bytes);
 /// none of them is ever replaced.
 void write_output(const std::string& path, std::string_view bytes, std::span<const std::string> images);
 
+/// Where a new plain file of that path goes: an existing one is replaced, a link followed. Throws FileError for what is
+/// no plain file and for one of the images.
+std::string output_target(const std::string& path, std::span<const std::string> images);
+
 }  // namespace kalco::ctl

@@ -4,9 +4,11 @@
 
 #include "ctl/command.h"
 #include "ctl/open_image.h"
+#include "ctl/patch_file.h"
 #include "ctl/table_formats.h"
 #include "ctl/table_json.h"
 #include "ctl/table_options.h"
+#include "work/edit.h"
 
 namespace kalco::ctl {
 namespace {
@@ -51,16 +53,16 @@ int run_import(const ImportCommandOptions& options) {
         complain_of(options.file, error.mistake());
         return no;
     }
-    Image image(options.dry_run ? open_to_read : open_to_write);
-    open_image(image, options.image, name);
-    const DiscBytes before = read_sheets(image);
+    if (!options.keep_undo.empty() && !options.force) refuse_patch_beside(options.keep_undo, {options.image});
+    Edit edit(options.image, options.dry_run);
+    open_image(edit.image(), edit.path(), name);
+    UndoFile undo(options.keep_undo, edit);
+    const DiscBytes before = read_sheets(edit.image());
     const ImportPlan plan = plan_import(before, tables, {options.sheet, options.force});
     for (const TableMistake& mistake : plan.mistakes) complain_of(options.file, mistake);
     if (!plan.mistakes.empty()) return no;
-    if (!options.dry_run) {
-        for (const DiscBytes::Run& run : differences(before, plan.after)) image.write(run.position, run.bytes);
-        image.commit();
-    }
+    for (const DiscBytes::Run& run : differences(before, plan.after)) edit.image().write(run.position, run.bytes);
+    undo.commit("Importazione: " + options.file);
     for (const FieldChange& change : plan.changes) {
         if (options.json) {
             std::cout << json_of_change(change).dump() << '\n';

@@ -14,6 +14,7 @@
 #include "ctl/export_command.h"
 #include "ctl/find_command.h"
 #include "ctl/import_command.h"
+#include "ctl/patch_command.h"
 #include "ctl/repair_command.h"
 #include "ctl/script/script_options.h"
 #include "ctl/script/script_runner.h"
@@ -42,6 +43,7 @@ public:
         add(ctl::add_find_command(app, find_), [this] { return ctl::run_find(find_); });
         add(ctl::add_check_command(app, check_), [this] { return ctl::run_check(check_); });
         add(ctl::add_repair_command(app, repair_), [this] { return ctl::run_repair(repair_); });
+        add(ctl::add_patch_command(app, patch_), [this] { return ctl::run_patch(patch_); });
     }
     Commands(const Commands&) = delete;
     Commands& operator=(const Commands&) = delete;
@@ -80,6 +82,7 @@ private:
     ctl::FindCommandOptions find_;
     ctl::CheckOptions check_;
     ctl::RepairOptions repair_;
+    ctl::PatchOptions patch_;
 };
 
 int run(int argc, char** argv) {

@@ -15,13 +15,6 @@ RawSector raw_sector(std::string_view bytes) {
     return sector;
 }
 
-/// An EDC that is left out in the system area is no EDC that fits: it stays left out.
-bool all_fitted(const std::string& before) {
-    if (before.size() != sector_bytes) return false;
-    const RawSector sector = raw_sector(before);
-    return kind_of(sector) != SectorKind::other && !bad_fields(system_area_sectors, sector).any();
-}
-
 }  // namespace
 
 std::vector<SectorChange> Edit::settle() {
@@ -29,7 +22,8 @@ std::vector<SectorChange> Edit::settle() {
         if (change.before.size() != change.after.size()) {
             throw FileError(path_, change.position(), "a change beyond the image's end");
         }
-        if (!all_fitted(change.before)) continue;
+        // An EDC that is left out in the system area is no EDC that fits: it stays left out.
+        if (change.before.size() != sector_bytes || !checks_all_fit(raw_sector(change.before))) continue;
         RawSector sector = raw_sector(change.after);
         renew_checks(sector);
         image_.write(change.position(), {reinterpret_cast<const char*>(sector.data()), sector.size()});

@@ -32,6 +32,7 @@ public:
 
     const std::string& path() const { return path_; }
     Image& image() { return image_; }
+    bool dry_run() const { return dry_run_; }
 
     /// Renews EDC and parities of the changed sectors whose fields all fitted before; in other sectors they stay as
     /// they are. Gives every sector that changes, with the renewed fields. Throws FileError when the image's length

@@ -7,33 +7,10 @@
 #include <utility>
 
 #include "disc/image/sector.h"
-#include "disc/image/sector_layout.h"
 #include "work/sheets/known_bits.h"
 
 namespace kalco {
 namespace {
-
-/// The offsets in a sector from which on its check fields run to `end`.
-struct CheckBytes {
-    std::size_t first = sector_bytes;
-    std::size_t end = sector_bytes;
-
-    bool hold(std::size_t byte) const { return byte >= first && byte < end; }
-};
-
-CheckBytes edc_of(SectorKind kind) {
-    switch (kind) {
-        case SectorKind::mode1: return {layout::mode1_edc, layout::mode1_edc + layout::edc_bytes};
-        case SectorKind::form1: return {layout::form1_edc, layout::form1_edc + layout::edc_bytes};
-        case SectorKind::form2: return {layout::form2_edc, layout::form2_edc + layout::edc_bytes};
-        default: return {};
-    }
-}
-
-CheckBytes parities_of(SectorKind kind) {
-    const bool has = kind == SectorKind::mode1 || kind == SectorKind::form1;
-    return has ? CheckBytes{layout::p, layout::q + layout::q_bytes} : CheckBytes{};
-}
 
 SectorKind kind_of(std::string_view bytes) {
     if (bytes.size() != sector_bytes) return SectorKind::other;
@@ -52,10 +29,8 @@ public:
         const SectorKind kind = kind_of(a);
         // Where the kinds differ the bytes don't mean the same in both.
         const bool checked = kind == kind_of(b);
-        const CheckBytes edc = checked ? edc_of(kind) : CheckBytes{};
-        const CheckBytes parities = checked ? parities_of(kind) : CheckBytes{};
         for (std::size_t byte = 0; byte < std::max(a.size(), b.size()); ++byte) {
-            if (edc.hold(byte) || parities.hold(byte)) continue;
+            if (checked && is_check_byte(kind, byte)) continue;
             unsigned other = 0xFF;
             if (byte < a.size() && byte < b.size()) {
                 other = static_cast<unsigned char>(a[byte]) ^ static_cast<unsigned char>(b[byte]);
@@ -102,6 +77,12 @@ std::vector<ByteRun> other_differences(const Image& a, const Image& b,
         }
         if (progress) progress(std::min(length, (first + sectors_at_once) * sector_bytes), length);
     }
+    return std::move(comparison).runs();
+}
+
+std::vector<ByteRun> other_differences(std::span<const SectorChange> changes) {
+    Comparison comparison;
+    for (const SectorChange& change : changes) comparison.compare(change.sector, change.before, change.after);
     return std::move(comparison).runs();
 }
 

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <span>
 #include <vector>
 
 #include "disc/image/image.h"
@@ -21,5 +22,7 @@ struct ByteRun {
 /// told the bytes that are compared.
 std::vector<ByteRun> other_differences(const Image& a, const Image& b,
                                        const std::function<void(std::int64_t done, std::int64_t all)>& progress = {});
+/// The same of the sectors that were written to.
+std::vector<ByteRun> other_differences(std::span<const SectorChange> changes);
 
 }  // namespace kalco

@@ -39,6 +39,12 @@ inline constexpr std::int64_t system_area_sectors = 16;
 /// as absent, and the parities are not looked at then.
 CheckFields bad_fields(std::int64_t number, SectorView sector);
 
+/// True when the sector has check fields and all of them fit. An absent EDC in the system area doesn't.
+bool checks_all_fit(SectorView sector);
+
+/// Whether the byte at an offset from a sector's start is one of its EDC or parities.
+bool is_check_byte(SectorKind kind, std::size_t offset);
+
 /// Renews the EDC, then P over it, then Q over both. Touches nothing else, the header least of all; a zero EDC of Form
 /// 2 is absent and stays, and a sector of another kind too.
 void renew_checks(SectorBytes sector);

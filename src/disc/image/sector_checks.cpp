@@ -148,4 +148,21 @@ CheckFields bad_fields(std::int64_t number, SectorView sector) {
     }
 }
 
+bool checks_all_fit(SectorView sector) {
+    return kind_of(sector) != SectorKind::other && !bad_fields(system_area_sectors, sector).any();
+}
+
+bool is_check_byte(SectorKind kind, std::size_t offset) {
+    const auto in = [offset](std::size_t from, std::size_t bytes) { return offset >= from && offset < from + bytes; };
+    switch (kind) {
+        case SectorKind::mode1:
+            return in(layout::mode1_edc, layout::edc_bytes) || in(layout::p, layout::p_bytes + layout::q_bytes);
+        case SectorKind::form1:
+            return in(layout::form1_edc, layout::edc_bytes) || in(layout::p, layout::p_bytes + layout::q_bytes);
+        case SectorKind::form2: return in(layout::form2_edc, layout::edc_bytes);
+        case SectorKind::other: break;
+    }
+    return false;
+}
+
 }  // namespace kalco

@@ -1,0 +1,139 @@
+#include "ctl/patch_words.h"
+
+#include <algorithm>
+
+#include "ctl/table_json.h"
+#include "disc/codec/latin1.h"
+#include "work/sheets/known_bits.h"
+#include "work/sheets/sheets.h"
+
+namespace kalco::ctl {
+namespace {
+
+std::string or_quotes(std::string cell) {
+    return cell.empty() ? std::string(empty_text_cell) : cell;
+}
+
+std::string conflict_line(const FieldChange& difference) {
+    return difference.id() + ' ' + difference.column->name + ": the patch expects " + or_quotes(difference.old_cell()) +
+           ", the image has " + or_quotes(difference.new_cell());
+}
+
+std::string conflict_line(ImagePos position, std::size_t bytes) {
+    return "position " + std::to_string(position) + ": the patch expects " + std::to_string(bytes) + " other bytes";
+}
+
+bool in_a_field(ImagePos position) {
+    const auto known = known_bits().find((position - 1) / sector_bytes);
+    return known != known_bits().end() && known->second[static_cast<std::size_t>((position - 1) % sector_bytes)] != 0;
+}
+
+/// The stretches of a conflict that are chosen by position, as lines.
+template <typename Chosen>
+void add_lines(const PatchConflict& conflict, Chosen chosen, std::vector<std::string>& lines) {
+    const auto size = static_cast<ImagePos>(conflict.found.size());
+    for (ImagePos from = 0; from < size;) {
+        ImagePos end = from;
+        while (end < size && chosen(conflict.position + end)) ++end;
+        if (end > from) lines.push_back(conflict_line(conflict.position + from, static_cast<std::size_t>(end - from)));
+        from = end + 1;
+    }
+}
+
+const char* kind_of_image(const PpfPatch& patch) {
+    return patch.image() == PpfImage::bin ? "BIN" : "GI";
+}
+
+struct Range {
+    std::uint64_t first;
+    std::uint64_t last;
+};
+
+/// The 1-based positions of the first and the last byte.
+Range range_of(const PpfPatch& patch) {
+    Range range{patch.records().front().offset + 1, patch.records().front().end()};
+    for (const PpfRecord& record : patch.records()) {
+        range.first = std::min(range.first, record.offset + 1);
+        range.last = std::max(range.last, record.end());
+    }
+    return range;
+}
+
+/// Bytes that others have written: shown as Latin-1, without control characters.
+std::string printable(std::string_view text) {
+    std::string clean(text);
+    std::replace_if(
+        clean.begin(), clean.end(),
+        [](char byte) {
+            const auto code = static_cast<unsigned char>(byte);
+            return code < 0x20 || (code >= 0x7F && code < 0xA0);
+        },
+        ' ');
+    return utf8_of_latin1(clean);
+}
+
+}  // namespace
+
+PatchWords::PatchWords(const Image& before) : before_(read_sheets(before)) {}
+
+void PatchWords::see(const Image& after) {
+    changes_ = changes_between(before_, read_sheets(after));
+    others_ = other_differences(after.changes());
+}
+
+std::string PatchWords::lines() const {
+    std::string text;
+    for (const FieldChange& change : changes_) text += line_of(change) + '\n';
+    for (const ByteRun& run : others_)
+        text += "position " + std::to_string(run.position) + ": " + std::to_string(run.bytes) + " bytes\n";
+    return text;
+}
+
+std::string PatchWords::json() const {
+    std::string text;
+    for (const FieldChange& change : changes_) text += json_of_change(change).dump() + '\n';
+    for (const ByteRun& run : others_) text += Json{{"position", run.position}, {"bytes", run.bytes}}.dump() + '\n';
+    return text;
+}
+
+std::vector<std::string> PatchWords::of_conflicts(const std::vector<PatchConflict>& conflicts) const {
+    DiscBytes expected = before_;
+    for (const PatchConflict& conflict : conflicts) expected.put(conflict.position, conflict.expected);
+    std::vector<std::string> lines;
+    for (const FieldChange& difference : changes_between(expected, before_)) lines.push_back(conflict_line(difference));
+    const bool fields_tell = !lines.empty();
+    for (const PatchConflict& conflict : conflicts) {
+        add_lines(
+            conflict, [&](ImagePos position) { return !fields_tell || !in_a_field(position); }, lines);
+    }
+    return lines;
+}
+
+std::string text_of_patch(const PpfPatch& patch) {
+    const Range range = range_of(patch);
+    std::string text = "kind: PPF " + std::to_string(patch.version()) + ".0";
+    if (patch.version() == 3) text += std::string(", ") + kind_of_image(patch);
+    text += "\ndescription: " + printable(patch.description());
+    text += std::string("\nblock check: ") + (patch.block() ? "yes" : "no");
+    text += std::string("\nundo: ") + (patch.has_undo() ? "yes" : "no");
+    text += "\nrecords: " + std::to_string(patch.records().size());
+    text += "\nbytes: " + std::to_string(patch.bytes());
+    text += "\npositions: " + std::to_string(range.first) + " to " + std::to_string(range.last) + '\n';
+    if (patch.file_id()) text += "text at the end: " + printable(*patch.file_id()) + '\n';
+    return text;
+}
+
+std::string json_of_patch(const PpfPatch& patch) {
+    const Range range = range_of(patch);
+    const Json json{{"version", patch.version()},
+                    {"description", printable(patch.description())},
+                    {"block_check", patch.block().has_value()},
+                    {"undo", patch.has_undo()},
+                    {"records", patch.records().size()},
+                    {"bytes", patch.bytes()},
+                    {"first", range.first},
+                    {"last", range.last}};
+    return json.dump() + '\n';
+}
+
+}  // namespace kalco::ctl
