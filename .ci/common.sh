@@ -48,6 +48,6 @@ build_packages=(g++:g++ cmake:cmake ninja-build:ninja ccache:ccache libcli11-dev
 run_packages=(libqt6svg6 libqt6svgwidgets6 fonts-dejavu-core)
 test_packages=(python3:python3 clang:clang++ libclang-rt-dev clang-format:clang-format clang-tidy:clang-tidy libgtest-dev
     libbenchmark-dev binutils:readelf desktop-file-utils:desktop-file-validate appstream:appstreamcli dpkg-dev:dpkg-shlibdeps
-    file:file)
+    file:file lintian:lintian)
 
 jobs() { nproc 2>/dev/null || echo 2; }

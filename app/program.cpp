@@ -53,15 +53,25 @@ void Program::end(int status) {
 }
 
 void Program::fail(const std::exception_ptr& failure) {
+    if (status_) return;
+    status_ = exit_failed;
+    int number = error::invalid_call;
     try {
         std::rethrow_exception(failure);
-    } catch (const RuntimeError& error) {
-        const std::string title = "Errore di run-time '" + std::to_string(error.number()) + "':\n";
-        platform_.message(title + std::string(error.text()), Icon::stop, Buttons::ok);
+    } catch (const std::exception& error) {
+        number = error_number(error);
+    } catch (...) {
+        // Nothing throws what is no std::exception; it would end the run all the same.
+    }
+    try {
+        const std::string title = "Errore di run-time '" + std::to_string(number) + "':\n";
+        platform_.message(title + std::string(run_time_error_text(number)), Icon::stop, Buttons::ok);
+    } catch (const std::exception&) {
+        // There is no memory for a box either.
     }
     try {
         editor_.form.image.close();
-    } catch (const RuntimeError&) {
+    } catch (const std::exception&) {
         // The first error has been told, and what was written stays.
     }
     end(exit_failed);

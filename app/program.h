@@ -23,12 +23,14 @@ public:
     /// Starts, and returns the exit status when the window is closed. A cancelled start shows no window.
     int run();
 
+    /// Ends the run as after a run-time error: tells the error, closes the image. The first failure counts.
+    void fail(const std::exception_ptr& failure);
+
     Editor& editor() { return editor_; }
     KalcoWindow& window() { return window_; }
 
 private:
     void end(int status);
-    void fail(const std::exception_ptr& failure);
 
     QtPlatform platform_;
     Editor editor_;

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "app/text.h"
+#include "editor/window/system_directories.h"
 
 namespace kalco::app {
 namespace {
@@ -77,10 +78,28 @@ std::string QtPlatform::open_dialog(const std::string& filter, const std::string
 
 std::string QtPlatform::program_directory() const {
     const QString beside = QCoreApplication::applicationDirPath();
-    if (QFileInfo(beside).isWritable()) return beside.toStdString();
+    if (!is_system_program_directory(beside.toStdString()) && QFileInfo(beside).isWritable()) {
+        return beside.toStdString();
+    }
     const QString own = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     QDir().mkpath(own);
     return own.toStdString();
+}
+
+void QtPlatform::miss_directory(const std::string& path) {
+    if (before_box) before_box();
+    QMessageBox box(parent());
+    box.setIcon(QMessageBox::Warning);
+    box.setWindowTitle(QCoreApplication::applicationName());
+    box.setTextFormat(Qt::PlainText);
+    box.setText(QStringLiteral("Impossibile creare la cartella\n%1").arg(QString::fromStdString(path)));
+    box.setInformativeText(QStringLiteral(
+        "L'immagine è aperta, ma la preparazione della finestra si è fermata qui: le squadre non si possono esportare, "
+        "gli elenchi dei nomi restano vuoti e il nome di un giocatore non è limitato a 10 caratteri. Un nome più lungo "
+        "finisce sopra i dati vicini.\n\n"
+        "È meglio chiudere, rendere scrivibile la cartella e aprire di nuovo l'immagine."));
+    box.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
+    box.exec();
 }
 
 QStringList name_filters(const QString& filter) {

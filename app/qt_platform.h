@@ -17,6 +17,7 @@ public:
     Answer message(const std::string& text, Icon icon, Buttons buttons) override;
     std::string open_dialog(const std::string& filter, const std::string& initial_directory) override;
     std::string program_directory() const override;
+    void miss_directory(const std::string& path) override;
 
     /// What boxes stand before; without one they stand alone.
     void set_window(QWidget* window) { window_ = window; }

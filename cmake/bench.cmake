@@ -2,13 +2,9 @@
 
 find_package(benchmark REQUIRED)
 file(GLOB bench_sources CONFIGURE_DEPENDS bench/*.cpp)
-if(bench_sources)
-    add_executable(kalco_bench ${bench_sources})
-    target_include_directories(kalco_bench PRIVATE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/tests)
-    target_link_libraries(kalco_bench PRIVATE
-        kalco_ctl kalco_script benchmark::benchmark kalco_warnings)
-endif()
-
+add_executable(kalco_bench ${bench_sources})
+target_include_directories(kalco_bench PRIVATE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/tests)
+target_link_libraries(kalco_bench PRIVATE kalco_ctl kalco_script benchmark::benchmark kalco_warnings)
 
 # kalco_window_bench: the actions with the real widgets; run it with QT_QPA_PLATFORM=offscreen.
 if(TARGET kalco_app)

@@ -3,9 +3,7 @@
 
 file(GLOB fuzz_sources CONFIGURE_DEPENDS fuzz/fuzz_*.cpp)
 file(GLOB fuzz_shared CONFIGURE_DEPENDS fuzz/*.cpp)
-if(fuzz_sources)
-    list(REMOVE_ITEM fuzz_shared ${fuzz_sources})
-endif()
+list(REMOVE_ITEM fuzz_shared ${fuzz_sources})
 
 add_compile_options(-fsanitize=fuzzer-no-link)
 foreach(storey kalco_disc kalco_work kalco_editor)

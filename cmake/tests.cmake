@@ -60,16 +60,14 @@ function(add_stories name program label)
     set_tests_properties(${name} PROPERTIES LABELS ${label} TIMEOUT 900 ENVIRONMENT "${test_env}" PROCESSORS 2)
 endfunction()
 
-if(TARGET kalcoctl)
-    add_stories(stories_kalcoctl kalcoctl stories)
-    add_test(NAME kalcoctl_links COMMAND Python3::Interpreter ${PROJECT_SOURCE_DIR}/tests/check_links.py
-        $<TARGET_FILE:kalcoctl>)
-    set_tests_properties(kalcoctl_links PROPERTIES LABELS stories)
-    # The real program under the faults of a system.
-    add_test(NAME programs COMMAND Python3::Interpreter -B ${PROJECT_SOURCE_DIR}/tests/run_programs.py
-        --kalcoctl $<TARGET_FILE:kalcoctl> --junit ${results}/programs.xml)
-    set_tests_properties(programs PROPERTIES LABELS stories TIMEOUT 300 ENVIRONMENT "${test_env}")
-endif()
+add_stories(stories_kalcoctl kalcoctl stories)
+add_test(NAME kalcoctl_links COMMAND Python3::Interpreter ${PROJECT_SOURCE_DIR}/tests/check_links.py
+    $<TARGET_FILE:kalcoctl>)
+set_tests_properties(kalcoctl_links PROPERTIES LABELS stories)
+# The real program under the faults of a system.
+add_test(NAME programs COMMAND Python3::Interpreter -B ${PROJECT_SOURCE_DIR}/tests/run_programs.py
+    --kalcoctl $<TARGET_FILE:kalcoctl> --junit ${results}/programs.xml)
+set_tests_properties(programs PROPERTIES LABELS stories TIMEOUT 300 ENVIRONMENT "${test_env}")
 
 # The linker would take a reference upwards as long as the program links the editor too.
 add_test(NAME storeys COMMAND Python3::Interpreter -B ${PROJECT_SOURCE_DIR}/tests/check_storeys.py
@@ -107,13 +105,9 @@ endfunction()
 
 foreach(tool window_script window_picture)
     file(GLOB tool_sources CONFIGURE_DEPENDS tests/app/${tool}/*.cpp tests/app/${tool}/*.h)
-    if(tool_sources)
-        add_window_program(${tool} ${tool_sources} ${app_support_sources})
-    endif()
+    add_window_program(${tool} ${tool_sources} ${app_support_sources})
 endforeach()
-if(TARGET window_script AND TARGET kalcoctl)
-    add_stories(stories_window window_script window)
-endif()
+add_stories(stories_window window_script window)
 
 file(GLOB window_tests CONFIGURE_DEPENDS tests/app/test_*.cpp)
 add_custom_target(window_tests)
@@ -124,9 +118,7 @@ foreach(source ${window_tests})
     set_tests_properties(${name} PROPERTIES LABELS window TIMEOUT 600 ENVIRONMENT "${test_env}")
     add_dependencies(window_tests ${name})
 endforeach()
-if(TARGET test_layout)
-    add_test(NAME test_layout_200_percent COMMAND test_layout no_text_is_cut lists_grow_and_fields_do_not
-        -o ${results}/test_layout_200_percent.xml,junitxml -o -,txt)
-    set_tests_properties(test_layout_200_percent PROPERTIES LABELS window TIMEOUT 600
-        ENVIRONMENT "${test_env};QT_SCALE_FACTOR=2")
-endif()
+add_test(NAME test_layout_200_percent COMMAND test_layout no_text_is_cut lists_grow_and_fields_do_not
+    -o ${results}/test_layout_200_percent.xml,junitxml -o -,txt)
+set_tests_properties(test_layout_200_percent PROPERTIES LABELS window TIMEOUT 600
+    ENVIRONMENT "${test_env};QT_SCALE_FACTOR=2")

@@ -7,8 +7,8 @@
 #include <memory>
 #include <system_error>
 
-#include "ctl/partial_file.h"
 #include "disc/image/file_error.h"
+#include "disc/image/new_file.h"
 
 namespace kalco::ctl {
 namespace {
@@ -77,9 +77,9 @@ void write_output(const std::string& path, std::string_view bytes, std::span<con
     const fs::file_status status = fs::status(path, ignored);
     const bool device = fs::exists(status) && !fs::is_regular_file(status) && !fs::is_directory(status);
     if (device) return write_through(path, bytes);
-    PartialFile file(output_target(path, images));
+    NewFile file(output_target(path, images));
     file.write(bytes);
-    file.finish(true);
+    file.finish();
 }
 
 }  // namespace kalco::ctl

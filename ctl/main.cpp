@@ -14,6 +14,7 @@
 #include "ctl/export_command.h"
 #include "ctl/find_command.h"
 #include "ctl/import_command.h"
+#include "ctl/interruption.h"
 #include "ctl/patch_command.h"
 #include "ctl/repair_command.h"
 #include "ctl/script/script_options.h"
@@ -25,10 +26,10 @@ namespace {
 
 using namespace kalco;
 
-int run_on_model(std::istream& script, script::ScriptPlatform& platform) {
+int run_on_model(std::istream& script, script::ScriptPlatform& platform, std::ostream& complaints) {
     Editor editor(platform);
     script::ModelStage stage(editor.form);
-    return script::run_script(script, stage, platform, std::cout, std::cerr);
+    return script::run_script(script, stage, platform, std::cout, complaints);
 }
 
 /// The commands with their options, declared to the parser.
@@ -108,6 +109,9 @@ int main(int argc, char** argv) {
     int status = ctl::trouble;
     try {
         status = run(argc, argv);
+    } catch (const ctl::Interrupted& interrupted) {
+        static_cast<void>(std::signal(interrupted.signal, SIG_DFL));
+        static_cast<void>(std::raise(interrupted.signal));
     } catch (const std::exception& failure) {
         static_cast<void>(std::fprintf(stderr, "kalcoctl: %s\n", failure.what()));
     }

@@ -11,6 +11,7 @@
 #include "ctl/patch_words.h"
 #include "ctl/progress.h"
 #include "disc/image/file_error.h"
+#include "disc/image/new_file.h"
 #include "work/edit.h"
 #include "work/patch.h"
 #include "work/patch_make.h"
@@ -62,7 +63,7 @@ int make(const PatchOptions& options) {
     Image edited(open_to_read);
     open_both(original, edited, options);
     const std::vector<std::string> images{options.image, options.edited};
-    PartialFile file(output_target(options.patch, images));
+    NewFile file(output_target(options.patch, images));
     Progress progress(command_name(options.what), original.length());
     const PatchSize size = make_patch(
         original, edited, options.description, [&file](std::string_view bytes) { file.write(bytes); },
@@ -72,7 +73,7 @@ int make(const PatchOptions& options) {
         complain(command_name(options.what), "the images are the same: there is nothing to make a patch of");
         return no;
     }
-    file.finish(true);
+    file.finish();
     std::cout << options.patch << ": " << size.records << " records, " << size.bytes << " bytes\n";
     return done;
 }

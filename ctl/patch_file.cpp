@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "disc/image/file_error.h"
+#include "disc/image/new_file.h"
 #include "work/undo_patch.h"
 
 namespace kalco::ctl {
@@ -55,9 +56,9 @@ UndoFile::UndoFile(std::string path, Edit& edit) : path_(std::move(path)), edit_
 void UndoFile::commit(std::string_view what) {
     const std::vector<SectorChange> changes = edit_.settle();
     if (path_.empty() || edit_.dry_run() || changes.empty()) return edit_.commit(what);
-    PartialFile file(path_);
+    NewFile file(path_);
     file.write(patch_of_changes(changes, block_, "Undo"));
-    file.finish(false);
+    file.finish(NewFile::Existing::keep);
     try {
         edit_.commit(what);
     } catch (...) {

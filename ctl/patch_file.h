@@ -5,7 +5,6 @@
 #include <string_view>
 #include <vector>
 
-#include "ctl/partial_file.h"
 #include "work/edit.h"
 
 /// The patch files that commands write.

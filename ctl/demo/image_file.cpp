@@ -1,35 +1,46 @@
 #include <filesystem>
+#include <memory>
 #include <stdexcept>
 #include <string_view>
 #include <system_error>
+#include <utility>
 
 #include "ctl/demo/demo_image.h"
-#include "ctl/partial_file.h"
+#include "disc/image/new_file.h"
+#include "disc/image/storage.h"
+#include "disc/runtime_error.h"
 
 namespace kalco::demo {
 namespace {
 
 namespace fs = std::filesystem;
 
-void refuse_existing(const std::string& path, bool replace) {
+/// The file that is to be replaced, held as the editor holds an image; nothing when there is none.
+std::unique_ptr<Storage> hold_existing(const std::string& path, bool replace) {
     std::error_code ignored;
     const fs::file_status status = fs::status(path, ignored);
-    if (!fs::exists(status)) return;
+    if (!fs::exists(status)) return nullptr;
     if (!fs::is_regular_file(status)) throw std::runtime_error(path + ": it is no plain file");
     if (!replace) throw std::runtime_error(path + ": it exists already; --force replaces it");
+    try {
+        return open_file(path);
+    } catch (const RuntimeError& failure) {
+        const bool held = failure.number() == error::permission_denied;
+        throw std::runtime_error(path + (held ? ": another program uses it" : ": it can't be written"));
+    }
 }
 
 }  // namespace
 
 void write_image(const DemoDisc& disc, const std::string& path, bool replace, const Progress& progress) {
-    refuse_existing(path, replace);
-    ctl::PartialFile file(path);
+    const std::unique_ptr<Storage> held = hold_existing(path, replace);
+    NewFile file(path);
     for (std::uint32_t number = 0; number < disc.sectors(); ++number) {
         const RawSector sector = disc.sector(number);
         file.write({reinterpret_cast<const char*>(sector.data()), sector.size()});
         progress(number + 1);
     }
-    file.finish(replace);
+    file.finish(replace ? NewFile::Existing::replace : NewFile::Existing::keep);
 }
 
 }  // namespace kalco::demo

@@ -6,6 +6,8 @@
 #include <nlohmann/json.hpp>
 #include <utility>
 
+#include "ctl/printable.h"
+
 namespace kalco::script {
 namespace {
 
@@ -48,7 +50,7 @@ public:
         int value = 0;
         const auto [end, failure] = std::from_chars(word.data(), word.data() + word.size(), value);
         if (failure != std::errc() || end != word.data() + word.size()) {
-            throw ScriptError(word + " is no " + what);
+            throw ScriptError(echoed(word) + " is no " + what);
         }
         return value;
     }
@@ -73,7 +75,7 @@ private:
 Verb verb_of(const std::string& word) {
     const auto* const found =
         std::find_if(verbs.begin(), verbs.end(), [&](const auto& verb) { return verb.first == word; });
-    if (found == verbs.end()) throw ScriptError("unknown action " + word);
+    if (found == verbs.end()) throw ScriptError("unknown action " + echoed(word));
     return found->second;
 }
 
@@ -93,12 +95,13 @@ void parse_operands(Action& action, Words& words) {
                 words.skip_rest();
             } else {
                 action.text = words.json_string("path");
+                if (action.text.find('\0') != std::string::npos) throw ScriptError("the path holds a zero byte");
             }
             break;
         case Verb::answer:
             action.text = words.next("answer");
             if (action.text != "yes" && action.text != "no" && action.text != "cancel") {
-                throw ScriptError("unknown answer " + action.text);
+                throw ScriptError("unknown answer " + echoed(action.text));
             }
             break;
         case Verb::tab: action.number = words.next_number("tab"); break;
@@ -128,8 +131,13 @@ std::optional<Action> parse_line(std::string_view line) {
     Action action;
     action.verb = verb_of(words.next("action"));
     parse_operands(action, words);
-    if (!words.done()) throw ScriptError("nothing is expected at: " + std::string(words.rest()));
+    if (!words.done()) throw ScriptError("nothing is expected at: " + echoed(words.rest()));
     return action;
+}
+
+std::string echoed(std::string_view text) {
+    constexpr std::size_t most = 80;
+    return ctl::printable(text, most);
 }
 
 std::string latin1_of_utf8(std::string_view text) {

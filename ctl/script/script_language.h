@@ -29,6 +29,9 @@ struct Action {
 /// The action of a line; nothing for an empty line and a comment. Throws ScriptError.
 std::optional<Action> parse_line(std::string_view line);
 
+/// How a complaint shows what stands in a script: without control characters, and not all of it when it is long.
+std::string echoed(std::string_view text);
+
 /// UTF-8 to one byte a character; what Latin-1 does not have becomes "?".
 std::string latin1_of_utf8(std::string_view text);
 

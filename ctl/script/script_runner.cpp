@@ -63,7 +63,7 @@ private:
 
     Control& control(const std::string& name) const {
         Control* const found = form_.registry.find(name);
-        if (found == nullptr) throw ScriptError("unknown control " + name);
+        if (found == nullptr) throw ScriptError("unknown control " + echoed(name));
         return *found;
     }
 
@@ -143,7 +143,7 @@ private:
         } else {
             state = variable_state(form_, name);
         }
-        if (state.is_null()) throw ScriptError("nothing is named " + name);
+        if (state.is_null()) throw ScriptError("nothing is named " + echoed(name));
         print(state);
     }
 
@@ -164,15 +164,29 @@ Json ended_event(const char* reason) {
 void close_after_failure(frmKalco& form) {
     try {
         form.image.close();
-    } catch (const RuntimeError&) {
+    } catch (const std::exception&) {
         // The run has failed already; its first error is the one that is told.
     }
 }
 
+/// The next line without its end; false when there is none. A read error is no end of the script.
+bool read_line(std::istream& script, std::string& line) {
+    constexpr std::size_t longest = 1 << 20;
+    line.clear();
+    char character = 0;
+    while (script.get(character) && character != '\n') {
+        if (line.size() == longest) throw ScriptError("the line is too long");
+        line += character;
+    }
+    if (script.bad()) throw ScriptError("the script can't be read on");
+    return script.good() || !line.empty();
+}
+
 void play(std::istream& script, Runner& runner, int& line_number) {
     std::string line;
-    while (!runner.ended() && std::getline(script, line)) {
+    while (!runner.ended()) {
         ++line_number;
+        if (!read_line(script, line)) break;
         if (const auto action = parse_line(line)) runner.perform(*action);
     }
     runner.finish();
@@ -186,16 +200,16 @@ int run_script(std::istream& script, Stage& stage, ScriptPlatform& platform, std
     int line_number = 0;
     try {
         play(script, runner, line_number);
-    } catch (const RuntimeError& failure) {
-        close_after_failure(stage.form());
-        Json event = ended_event("error");
-        event["number"] = failure.number();
-        runner.print(event);
-        return exit_failed;
     } catch (const ScriptError& failure) {
         close_after_failure(stage.form());
         complaints << "line " << line_number << ": " << failure.what() << '\n';
         return exit_unrunnable;
+    } catch (const std::exception& failure) {
+        close_after_failure(stage.form());
+        Json event = ended_event("error");
+        event["number"] = error_number(failure);
+        runner.print(event);
+        return exit_failed;
     }
     switch (*stage.form().ended) {
         case Ending::closed: runner.print(ended_event("closed")); return exit_done;

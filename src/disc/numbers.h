@@ -16,7 +16,6 @@ namespace kalco {
 inline constexpr int national_number_bytes = 16;
 inline constexpr int club_number_bytes = 23;
 inline constexpr int most_national_number = 32;
-inline constexpr int board_cells = 99;
 
 /// The first records; the others follow in the order of the list of 87 teams.
 inline constexpr UserOffset NationalNumberBase = user_offset_of(404717);

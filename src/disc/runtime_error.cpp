@@ -1,11 +1,15 @@
 #include "disc/runtime_error.h"
 
+#include <new>
+#include <stdexcept>
+
 namespace kalco {
 
 std::string_view run_time_error_text(int number) {
     switch (number) {
         case error::invalid_call: return "Chiamata di routine o argomento non validi";
         case error::overflow: return "Overflow";
+        case error::out_of_memory: return "Memoria esaurita";
         case error::type_mismatch: return "Tipo non corrispondente";
         case error::bad_file_name: return "Nome o numero di file non valido";
         case error::file_not_found: return "Impossibile trovare il file";
@@ -23,6 +27,13 @@ std::string_view run_time_error_text(int number) {
 
 const char* RuntimeError::what() const noexcept {
     return run_time_error_text(number_).data();
+}
+
+int error_number(const std::exception& failure) {
+    if (const auto* const error = dynamic_cast<const RuntimeError*>(&failure)) return error->number();
+    const bool memory = dynamic_cast<const std::bad_alloc*>(&failure) != nullptr ||
+                        dynamic_cast<const std::length_error*>(&failure) != nullptr;
+    return memory ? error::out_of_memory : error::invalid_call;
 }
 
 }  // namespace kalco

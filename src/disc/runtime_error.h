@@ -10,6 +10,7 @@ namespace kalco {
 namespace error {
 inline constexpr int invalid_call = 5;
 inline constexpr int overflow = 6;
+inline constexpr int out_of_memory = 7;
 inline constexpr int type_mismatch = 13;
 inline constexpr int bad_file_name = 52;
 inline constexpr int file_not_found = 53;
@@ -38,5 +39,8 @@ public:
 private:
     int number_;
 };
+
+/// The number that any failure ends the program with: its own, 7 for memory that there is not, 5 for all others.
+int error_number(const std::exception& failure);
 
 }  // namespace kalco

@@ -3,13 +3,22 @@
 #include <QMessageBox>
 #include <QTimer>
 #include <QtTest>
+#include <new>
+#include <stdexcept>
 
+#include "app/application.h"
 #include "app/program.h"
 #include "app/support/test_window.h"
 #include "disc/runtime_error.h"
 #include "editor/window/user.h"
 
 using namespace kalco;
+
+/// A program whose directory can't be used.
+class HomelessPlatform : public app::QtPlatform {
+public:
+    std::string program_directory() const override { return "/dev/null"; }
+};
 
 /// A whole run of the program with its real dialogs: what it shows and the status that it ends with.
 class TestProgram : public QObject {
@@ -66,6 +75,64 @@ private Q_SLOTS:
         QVERIFY(!program.window().isVisible());
     }
 
+    void any_other_exception_is_told_and_ends_it_with_1() {
+        const std::vector<std::pair<std::exception_ptr, QString>> failures{
+            {std::make_exception_ptr(std::bad_alloc()), QStringLiteral("Errore di run-time '7':\nMemoria esaurita")},
+            {std::make_exception_ptr(std::out_of_range("x")),
+             QStringLiteral("Errore di run-time '5':\nChiamata di routine o argomento non validi")},
+            {std::make_exception_ptr(1),
+             QStringLiteral("Errore di run-time '5':\nChiamata di routine o argomento non validi")},
+        };
+        for (const auto& [failure, expected] : failures) {
+            const test::DemoHome home;
+            app::Program program;
+            frmKalco& form = program.editor().form;
+            form.cmdNew.click = [&failure = failure] { std::rethrow_exception(failure); };
+            choose_next(home);
+            QString text;
+            QTimer::singleShot(after_start, &program.window(), [&] {
+                QTimer::singleShot(0, &program.window(), [&text] { text = press_enter_in_box(); });
+                QTest::mouseClick(program.window().binder().widget_of(form.cmdNew), Qt::LeftButton);
+            });
+            QCOMPARE(program.run(), 1);
+            QCOMPARE(text, expected);
+            QVERIFY(!form.image.is_open());
+        }
+    }
+
+    void an_exception_outside_all_actions_is_told_and_ends_it_with_1() {
+        const test::DemoHome home;
+        app::Program program;
+        application().on_failure = [&program](const std::exception_ptr& failure) { program.fail(failure); };
+        choose_next(home);
+        QString text;
+        QTimer::singleShot(after_start, &program.window(), [&] {
+            QTimer::singleShot(0, &program.window(), [&text] { text = press_enter_in_box(); });
+            QTimer::singleShot(0, &program.window(), [] { throw std::bad_alloc(); });
+        });
+        QCOMPARE(program.run(), 1);
+        application().on_failure = nullptr;
+        QCOMPARE(text, QStringLiteral("Errore di run-time '7':\nMemoria esaurita"));
+        QVERIFY(!program.editor().form.image.is_open());
+    }
+
+    void a_directory_that_cannot_be_made_is_told_at_once() {
+        const test::DemoHome home;
+        HomelessPlatform platform;
+        Editor editor(platform);
+        app::KalcoWindow window(editor.form);
+        platform.choose_next(QString::fromStdString(home.image()));
+        QString text;
+        QTimer::singleShot(0, this, [&text] { text = press_enter_in_box(); });
+        window.start();
+        QCOMPARE(text, QStringLiteral("Impossibile creare la cartella\n/dev/null/Export"));
+        // The opening goes on as far as it did without the box.
+        QVERIFY(window.isVisible());
+        QVERIFY(editor.form.image.is_open());
+        QCOMPARE(editor.form.txtName.max_length(), 0);
+        window.close();
+    }
+
     void the_lost_path_after_a_cancelled_change_of_image_ends_the_next_save() {
         const test::DemoHome home;
         app::Program program;
@@ -104,6 +171,8 @@ private Q_SLOTS:
     }
 
 private:
+    static app::Application& application() { return *dynamic_cast<app::Application*>(qApp); }
+
     /// Milliseconds, more than the first dialog needs to be answered.
     static constexpr int after_start = 300;
 
@@ -136,5 +205,10 @@ private:
     }
 };
 
-QTEST_MAIN(TestProgram)
+int main(int argc, char** argv) {
+    const app::Application application(argc, argv);
+    TestProgram tests;
+    return QTest::qExec(&tests, argc, argv);
+}
+
 #include "test_program.moc"

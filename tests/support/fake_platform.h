@@ -40,12 +40,14 @@ public:
     }
 
     std::string program_directory() const override { return home; }
+    void miss_directory(const std::string& path) override { missed.push_back(path); }
 
     std::deque<Answer> answers;
     std::deque<std::string> choices;
     std::string home = ".";
     std::vector<Message> messages;
     std::vector<Dialog> dialogs;
+    std::vector<std::string> missed;
 };
 
 }  // namespace kalco::test

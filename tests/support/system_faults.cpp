@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <csignal>
 #include <cstdarg>
 #include <optional>
 #include <utility>
@@ -31,7 +32,8 @@ std::optional<Fault> next_fault(SystemCall call) {
 /// The error of the next fault, or 0; shortens `bytes` where the fault asks for it.
 int apply_fault(SystemCall call, std::size_t& bytes) {
     const auto fault = next_fault(call);
-    if (!fault) return 0;
+    if (!fault || fault->passes) return 0;
+    if (fault->kills) ::kill(::getpid(), SIGKILL);
     if (fault->error == 0) bytes = std::min(bytes, fault->at_most);
     return fault->error;
 }
@@ -93,6 +95,12 @@ int fsync(int fd) {
     std::size_t none = 0;
     if (const int error = apply_fault(SystemCall::sync, none)) return static_cast<int>(failing(error));
     return static_cast<int>(::syscall(SYS_fsync, fd));
+}
+
+int rename(const char* from, const char* to) {
+    std::size_t none = 0;
+    if (const int error = apply_fault(SystemCall::rename, none)) return static_cast<int>(failing(error));
+    return static_cast<int>(::syscall(SYS_renameat2, AT_FDCWD, from, AT_FDCWD, to, 0));
 }
 
 }  // extern "C"

@@ -49,8 +49,7 @@ void cmdExport_Click(frmKalco& form) {
     make_side_directory(form.platform, directory::formations);
     const std::string path =
         side_file_path(form.platform, directory::formations, upper(form.txtSqHEX2.text()) + std::string(extension));
-    write_lines(path, {});
-    write_lines(path, {bar_digits(form) + formation_digits(form)});
+    write_lines_made(path, [&form] { return std::vector{bar_digits(form) + formation_digits(form)}; });
     form.inform("File creato con successo");
 }
 

@@ -47,10 +47,13 @@ void cmdExp_Click(frmKalco& form) {
     form.ListFile.clear();
     const std::string path =
         side_file_path(form.platform, directory::export_teams, form.txtSQ.text() + std::string(team_file_extension));
-    write_lines(path, {});
-    for (const std::string& line : team_file_head(form.txtSQ.text(), form.txtSqShort.text())) form.ListFile.add(line);
-    for (int player = 0; player < roster_players; ++player) form.ListFile.add(line_of_player(form, player));
-    write_lines(path, form.ListFile.items());
+    write_lines_made(path, [&form] {
+        for (const std::string& line : team_file_head(form.txtSQ.text(), form.txtSqShort.text())) {
+            form.ListFile.add(line);
+        }
+        for (int player = 0; player < roster_players; ++player) form.ListFile.add(line_of_player(form, player));
+        return form.ListFile.items();
+    });
     form.inform("File creato con successo");
 }
 

@@ -12,8 +12,17 @@ constexpr auto image_filter = "Image CDRWIN (*.bin)|*.bin| Image CloneCD (*.img)
 constexpr int name_limit = 10;
 constexpr int cost_limit = 3;
 
+void make_export_directory(frmKalco& form) {
+    try {
+        make_side_directory(form.platform, directory::export_teams);
+    } catch (const RuntimeError&) {
+        form.platform.miss_directory(side_directory(form.platform, directory::export_teams));
+        throw;
+    }
+}
+
 void prepare_first_tab(frmKalco& form) {
-    make_side_directory(form.platform, directory::export_teams);
+    make_export_directory(form);
     form.SSTab1.select(tab::players);
     form.txtName.set_max_length(name_limit);
     form.txtML.set_max_length(cost_limit);

@@ -4,15 +4,17 @@
 #include <cstdio>
 #include <filesystem>
 #include <memory>
+#include <optional>
+#include <system_error>
 
 #include "disc/codec/latin1.h"
+#include "disc/image/new_file.h"
 #include "disc/runtime_error.h"
 
 namespace kalco {
 namespace {
 
 struct CloseFile {
-    // Only a file that was read is closed here; a written one is closed by hand, to see the failure.
     void operator()(std::FILE* file) const { static_cast<void>(std::fclose(file)); }
 };
 using File = std::unique_ptr<std::FILE, CloseFile>;
@@ -21,19 +23,57 @@ std::filesystem::path path_of(const std::string& utf8) {
     return {reinterpret_cast<const char8_t*>(utf8.c_str())};
 }
 
-std::string contents(const std::string& path) {
-    // A directory, a pipe or a device is no side file, and some of them never end.
-    std::error_code failure;
-    const auto status = std::filesystem::status(path_of(path), failure);
-    if (status.type() == std::filesystem::file_type::not_found) throw RuntimeError(error::file_not_found);
-    if (!std::filesystem::is_regular_file(status)) throw RuntimeError(error::path_access);
-    const File file(std::fopen(path.c_str(), "rb"));
-    if (!file) throw RuntimeError(errno == ENOENT ? error::file_not_found : error::path_access);
+/// Reads a side file block by block. Errors 53 and 75 when it can't be opened.
+class Reader {
+public:
+    explicit Reader(const std::string& path) {
+        // A directory, a pipe or a device is no side file, and some of them never end.
+        std::error_code failure;
+        const auto status = std::filesystem::status(path_of(path), failure);
+        if (status.type() == std::filesystem::file_type::not_found) throw RuntimeError(error::file_not_found);
+        if (!std::filesystem::is_regular_file(status)) throw RuntimeError(error::path_access);
+        file_.reset(std::fopen(path.c_str(), "rb"));
+        if (!file_) throw RuntimeError(errno == ENOENT ? error::file_not_found : error::path_access);
+    }
+
+    /// Appends the next block to the text; false at the file's end.
+    bool append_to(std::string& text) {
+        const std::size_t got = std::fread(buffer_.data(), 1, buffer_.size(), file_.get());
+        if (std::ferror(file_.get()) != 0) throw RuntimeError(error::device_io);
+        if (text.size() + got > largest_side_file) throw RuntimeError(error::out_of_memory);
+        text.append(buffer_, 0, got);
+        return got != 0;
+    }
+
+private:
+    File file_;
+    std::string buffer_ = std::string(1 << 16, '\0');
+};
+
+/// Error 61 when the system tells that there is no room, else the other one.
+[[noreturn]] void fail(const std::system_error& failure, int other) {
+    const int code = failure.code().value();
+    throw RuntimeError(code == ENOSPC || code == EDQUOT || code == EFBIG ? error::disk_full : other);
+}
+
+void finish(NewFile& file, const std::vector<std::string>& lines) {
     std::string text;
-    std::string buffer(1 << 16, '\0');
-    while (const std::size_t got = std::fread(buffer.data(), 1, buffer.size(), file.get())) text.append(buffer, 0, got);
-    if (std::ferror(file.get()) != 0) throw RuntimeError(error::device_io);
-    return text;
+    for (const std::string& line : lines) text += line + "\r\n";
+    try {
+        file.write(text);
+        file.finish();
+    } catch (const std::system_error& failure) {
+        fail(failure, error::device_io);
+    }
+}
+
+/// What is to be empty after an error can stay as it was when even that fails: the error is told all the same.
+void leave_empty(NewFile& file) {
+    try {
+        file.finish();
+    } catch (const std::system_error&) {
+        return;
+    }
 }
 
 }  // namespace
@@ -46,7 +86,8 @@ void make_side_directory(const Platform& platform, std::string_view name) {
     const auto path = path_of(side_directory(platform, name));
     std::error_code failure;
     if (std::filesystem::exists(path, failure)) return;
-    if (!std::filesystem::create_directory(path, failure)) throw RuntimeError(error::path_access);
+    if (std::filesystem::create_directory(path, failure)) return;
+    fail(std::system_error(failure), error::path_access);
 }
 
 std::string side_file_path(const Platform& platform, std::string_view directory_name, std::string_view file_name) {
@@ -60,7 +101,9 @@ std::string side_file_path(const Platform& platform, std::string_view directory_
 }
 
 std::vector<std::string> read_lines(const std::string& path) {
-    const std::string text = contents(path);
+    std::string text;
+    for (Reader file(path); file.append_to(text);) {
+    }
     std::vector<std::string> lines;
     std::size_t place = 0;
     while (place < text.size()) {
@@ -72,20 +115,35 @@ std::vector<std::string> read_lines(const std::string& path) {
 }
 
 std::string read_first_line(const std::string& path) {
-    std::vector<std::string> lines = read_lines(path);
-    if (lines.empty()) throw RuntimeError(error::past_end_of_file);
-    return std::move(lines.front());
+    Reader file(path);
+    std::string text;
+    std::size_t end = std::string::npos;
+    for (std::size_t place = 0; end == std::string::npos && file.append_to(text); place = text.size()) {
+        end = text.find_first_of("\r\n", place);
+    }
+    if (text.empty()) throw RuntimeError(error::past_end_of_file);
+    return text.substr(0, end);
 }
 
 void write_lines(const std::string& path, const std::vector<std::string>& lines) {
-    std::string text;
-    for (const std::string& line : lines) text += line + "\r\n";
-    File file(std::fopen(path.c_str(), "wb"));
-    if (!file) throw RuntimeError(error::path_access);
-    errno = 0;
-    const bool written = std::fwrite(text.data(), 1, text.size(), file.get()) == text.size();
-    const bool closed = std::fclose(file.release()) == 0;
-    if (!written || !closed) throw RuntimeError(errno == ENOSPC ? error::disk_full : error::device_io);
+    write_lines_made(path, [&] { return lines; });
+}
+
+void write_lines_made(const std::string& path, const std::function<std::vector<std::string>()>& make) {
+    std::optional<NewFile> file;
+    try {
+        file.emplace(path);
+    } catch (const std::system_error& failure) {
+        fail(failure, error::path_access);
+    }
+    std::vector<std::string> lines;
+    try {
+        lines = make();
+    } catch (const RuntimeError&) {
+        leave_empty(*file);
+        throw;
+    }
+    finish(*file, lines);
 }
 
 }  // namespace kalco

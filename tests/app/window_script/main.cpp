@@ -11,10 +11,10 @@
 
 namespace {
 
-int run_on_window(std::istream& script, kalco::script::ScriptPlatform& platform) {
+int run_on_window(std::istream& script, kalco::script::ScriptPlatform& platform, std::ostream& complaints) {
     kalco::Editor editor(platform);
     kalco::test::WindowStage stage(editor.form);
-    return kalco::script::run_script(script, stage, platform, std::cout, std::cerr);
+    return kalco::script::run_script(script, stage, platform, std::cout, complaints);
 }
 
 }  // namespace

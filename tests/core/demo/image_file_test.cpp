@@ -9,6 +9,9 @@
 
 #include "ctl/demo/demo_image.h"
 #include "ctl/demo_command.h"
+#include "ctl/interruption.h"
+#include "disc/image/storage.h"
+#include "disc/runtime_error.h"
 
 namespace kalco::demo {
 namespace {
@@ -101,6 +104,73 @@ TEST_F(ImageFile, LeavesNothingBehindWhenAWriteFails) {
     std::signal(SIGXFSZ, handler);
     EXPECT_EQ(fs::file_size(path), 3U);
     EXPECT_EQ(files(), 1U);
+}
+
+TEST_F(ImageFile, StaysWhileAProgramUsesIt) {
+    std::ofstream(path) << "old";
+    const auto held = open_file(path);
+    EXPECT_THROW(write_image(disc, path, true, ignore_progress), std::runtime_error);
+    EXPECT_EQ(fs::file_size(path), 3U);
+    EXPECT_EQ(files(), 1U);
+}
+
+TEST_F(ImageFile, IsHeldWhileItIsReplaced) {
+    std::ofstream(path) << "old";
+    int opening_error = 0;
+    write_image(disc, path, true, [&](std::uint32_t) {
+        try {
+            open_file(path);
+        } catch (const RuntimeError& failure) {
+            opening_error = failure.number();
+        }
+    });
+    EXPECT_EQ(opening_error, error::permission_denied);
+}
+
+TEST_F(ImageFile, KeepsItsModeAndItsLink) {
+    const fs::path target = folder / "elsewhere" / "disc.bin";
+    fs::create_directory(target.parent_path());
+    std::ofstream(target) << "old";
+    fs::permissions(target, fs::perms(0600));
+    fs::create_symlink("elsewhere/disc.bin", path);
+    write_image(disc, path, true, ignore_progress);
+    EXPECT_TRUE(fs::is_symlink(path));
+    EXPECT_EQ(fs::file_size(target), 3U * sector_bytes);
+    EXPECT_EQ(fs::status(target).permissions(), fs::perms(0600));
+    EXPECT_EQ(files(), 2U);
+}
+
+TEST_F(ImageFile, GoesAwayWhenTheWorkIsGivenUp) {
+    std::ofstream(path) << "old";
+    const ctl::Interruption interruption;
+    const auto interrupt = [&](std::uint32_t done) {
+        if (done == 2) ::raise(SIGTERM);
+        interruption.check();
+    };
+    try {
+        write_image(disc, path, true, interrupt);
+        ADD_FAILURE() << "went on";
+    } catch (const ctl::Interrupted& interrupted) {
+        EXPECT_EQ(interrupted.signal, SIGTERM);
+    }
+    EXPECT_EQ(fs::file_size(path), 3U);
+    EXPECT_EQ(files(), 1U);
+}
+
+TEST(DemoOptions, HaveASeedOf64Bits) {
+    const auto seed_of = [](const std::string& text) {
+        CLI::App app;
+        DemoOptions options;
+        add_demo_command(app, options);
+        app.parse(std::vector<std::string>{text, "--seed", "a.bin", "demo"});
+        return options.seed;
+    };
+    EXPECT_EQ(seed_of("0"), 0U);
+    EXPECT_EQ(seed_of("010"), 10U);
+    EXPECT_EQ(seed_of("18446744073709551615"), 18446744073709551615U);
+    for (const char* text : {"", "-1", "+1", " 1", "1 ", "1.5", "1e3", "0x10", "x", "18446744073709551616"}) {
+        EXPECT_THROW(seed_of(text), CLI::ParseError) << text;
+    }
 }
 
 TEST_F(ImageFile, IsMadeByTheCommandOnce) {

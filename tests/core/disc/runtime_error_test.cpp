@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <map>
+#include <new>
+#include <stdexcept>
 #include <string>
 
 namespace kalco {
@@ -12,6 +14,7 @@ TEST(RunTimeErrors, HaveTheirItalianTexts) {
     const std::map<int, std::string> texts{
         {5, "Chiamata di routine o argomento non validi"},
         {6, "Overflow"},
+        {7, "Memoria esaurita"},
         {13, "Tipo non corrispondente"},
         {52, "Nome o numero di file non valido"},
         {53, "Impossibile trovare il file"},
@@ -38,9 +41,18 @@ TEST(RunTimeErrors, CarryNumberAndText) {
 }
 
 TEST(RunTimeErrors, TellNothingOfAnUnknownNumber) {
-    const RuntimeError failure(7);
+    const RuntimeError failure(8);
     EXPECT_EQ(failure.text(), "");
     EXPECT_STREQ(failure.what(), "");
+}
+
+TEST(RunTimeErrors, HaveANumberForEveryFailure) {
+    EXPECT_EQ(error_number(RuntimeError(error::disk_full)), 61);
+    EXPECT_EQ(error_number(std::bad_alloc()), 7);
+    EXPECT_EQ(error_number(std::bad_array_new_length()), 7);
+    EXPECT_EQ(error_number(std::length_error("x")), 7);
+    EXPECT_EQ(error_number(std::out_of_range("x")), 5);
+    EXPECT_EQ(error_number(std::runtime_error("x")), 5);
 }
 
 }  // namespace

@@ -126,6 +126,25 @@ TEST(ScriptLine, ComplainsOfTextsThatAreNoJsonStrings) {
     EXPECT_EQ(complaint("type x " + std::string(100000, '[')), "the text is no JSON string");
 }
 
+TEST(ScriptLine, TakesNoZeroByteInAPath) {
+    EXPECT_EQ(complaint(R"(choose "disc.bin\u0000.txt")"), "the path holds a zero byte");
+    EXPECT_EQ(complaint(R"(choose "\u0000")"), "the path holds a zero byte");
+}
+
+TEST(ScriptLine, IsEchoedWithoutControlCharactersAndCut) {
+    EXPECT_EQ(complaint("\x1B[2J\a\x7F x"), "unknown action \\x1b[2J\\x07\\x7f");
+    EXPECT_EQ(complaint("\xC2\x9B\x9B x"), "unknown action \\xc2\\x9b\\x9b");
+    const std::string eighty(80, 'x');
+    EXPECT_EQ(complaint(eighty), "unknown action " + eighty);
+    EXPECT_EQ(complaint(eighty + "yz"), "unknown action " + eighty + "...");
+    EXPECT_EQ(complaint("answer " + eighty + "yz"), "unknown answer " + eighty + "...");
+    EXPECT_EQ(complaint("tab " + eighty + "yz"), eighty + "... is no tab");
+    EXPECT_EQ(complaint("start " + eighty + " z"), "nothing is expected at: " + eighty + "...");
+    std::string accented;
+    for (int i = 0; i < 81; ++i) accented += "\xC3\xA0";
+    EXPECT_EQ(complaint(accented), "unknown action " + accented.substr(0, 160) + "...");
+}
+
 TEST(ScriptTexts, GoBothWaysForEveryByte) {
     for (int code = 0; code <= 0xFF; ++code) {
         const std::string byte(1, static_cast<char>(code));

@@ -1,10 +1,15 @@
 #include "ctl/script/script_runner.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
+#include <new>
 #include <sstream>
+#include <stdexcept>
 
 #include "ctl/script/script_language.h"
+#include "ctl/script/script_source.h"
 #include "editor/editor.h"
 #include "support/filled_disc.h"
 #include "support/shelf.h"
@@ -130,6 +135,59 @@ TEST_F(Scripts, TellAFailingWrite) {
     EXPECT_EQ(play("pick cboSeqSQ 0\ntype txtName \"Xyz\"\nclick cmdSaveCar\n"), exit_failed);
     EXPECT_NE(output.find("\"number\": 61}"), std::string::npos);
     EXPECT_FALSE(disc().held);
+}
+
+TEST_F(Scripts, EndLikeARunTimeErrorWithAnyOtherFailure) {
+    const auto play_over = [&](const std::exception_ptr& failure) {
+        std::istringstream script("choose \"disc.bin\"\nstart\npick cboSeqSQ 0\nclick cmdSaveCar\n");
+        std::ostringstream out;
+        std::ostringstream complaints;
+        ScriptPlatform platform(home.path(), out);
+        Editor editor(platform, shelf.opener());
+        editor.form.cmdSaveCar.click = [&] { std::rethrow_exception(failure); };
+        ModelStage stage(editor.form);
+        EXPECT_EQ(run_script(script, stage, platform, out, complaints), exit_failed);
+        EXPECT_FALSE(disc().held);
+        return out.str().substr(dialog_line.size());
+    };
+    EXPECT_EQ(play_over(std::make_exception_ptr(std::bad_alloc())),
+              "{\"event\": \"ended\", \"reason\": \"error\", \"number\": 7}\n");
+    EXPECT_EQ(play_over(std::make_exception_ptr(std::logic_error("x"))),
+              "{\"event\": \"ended\", \"reason\": \"error\", \"number\": 5}\n");
+}
+
+TEST_F(Scripts, AreNotOverAtAReadError) {
+    const auto play_up_to = [&](int fd) {
+        DescriptorBuffer buffer(fd);
+        std::istream script(&buffer);
+        std::ostringstream out;
+        std::ostringstream complaints;
+        ScriptPlatform platform(home.path(), out);
+        Editor editor(platform, shelf.opener());
+        ModelStage stage(editor.form);
+        const int status = run_script(script, stage, platform, out, complaints);
+        EXPECT_EQ(out.str(), "");
+        EXPECT_EQ(complaints.str(), "line 1: the script can't be read on\n");
+        return status;
+    };
+    EXPECT_EQ(play_up_to(-1), exit_unrunnable);
+    const int directory = ::open(home.path().c_str(), O_RDONLY);
+    EXPECT_EQ(play_up_to(directory), exit_unrunnable);
+    ::close(directory);
+}
+
+TEST_F(Scripts, HaveLinesOfABoundedLength) {
+    const std::string longest = '#' + std::string((1 << 20) - 1, 'x');
+    EXPECT_EQ(play_all(longest + '\n' + longest), exit_done);
+    EXPECT_EQ(play_all('\n' + longest + "x"), exit_unrunnable);
+    EXPECT_EQ(complaint, "line 2: the line is too long\n");
+}
+
+TEST_F(Scripts, EchoNamesCutAndWithoutControlCharacters) {
+    const std::string name(90, 'x');
+    expect_complaint("click " + name, "line 3: unknown control " + name.substr(0, 80) + "...\n");
+    expect_complaint("show " + name, "line 3: nothing is named " + name.substr(0, 80) + "...\n");
+    expect_complaint("click \x1Bx", "line 3: unknown control \\x1bx\n");
 }
 
 TEST_F(Scripts, NeedTheStartFirst) {

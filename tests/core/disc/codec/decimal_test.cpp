@@ -34,6 +34,8 @@ TEST(Decimal, RefusesEverythingElse) {
 
 TEST(Decimal, HoldsNumbersBeyond64BitsAtTheEndOfTheirRange) {
     constexpr auto most = std::numeric_limits<std::int64_t>::max();
+    EXPECT_EQ(number_of("9223372036854775806"), most - 1);
+    EXPECT_EQ(number_of("-9223372036854775806"), -most + 1);
     EXPECT_EQ(number_of("9223372036854775807"), most);
     EXPECT_EQ(number_of("9223372036854775808"), most);
     EXPECT_EQ(number_of(std::string(400, '9')), most);

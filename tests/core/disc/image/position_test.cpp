@@ -50,6 +50,18 @@ TEST(Fields, AreTwoPiecesOverASectorsEnd) {
     EXPECT_EQ(field_at(2047, 10), Pieces(Piece{2072, 1}, Piece{2377, 9}));
 }
 
+TEST(Fields, AreEqualWhenAllOfThemIs) {
+    const Pieces field(Piece{2064, 9}, Piece{2377, 1});
+    EXPECT_EQ(field, Pieces(Piece{2064, 9}, Piece{2377, 1}));
+    EXPECT_NE(field, Pieces(Piece{2065, 9}, Piece{2377, 1}));
+    EXPECT_NE(field, Pieces(Piece{2064, 8}, Piece{2377, 1}));
+    EXPECT_NE(field, Pieces(Piece{2064, 9}, Piece{2378, 1}));
+    EXPECT_NE(field, Pieces(Piece{2064, 9}, Piece{2377, 2}));
+    EXPECT_NE(field, Pieces(Piece{2064, 9}));
+    EXPECT_NE(Pieces(Piece{2064, 9}), Pieces(Piece{2064, 9}, Piece{}));
+    EXPECT_NE(Pieces(Piece{2064, 9}), Pieces(Piece{2065, 9}));
+}
+
 TEST(Fields, AreTheSameFromAPositionAsFromAnOffset) {
     for (UserOffset offset = 2000; offset < 2100; ++offset) {
         EXPECT_EQ(field_from(position_of(offset), 12), field_at(offset, 12)) << offset;

@@ -225,6 +225,29 @@ TEST_F(Transfers, KeepTheKeyUpToTheFirstEqualsSign) {
     EXPECT_EQ(form.listTras1.item(8), "key3=9,9,9,Other");
 }
 
+TEST_F(Transfers, TakeALineWithoutAKeyWhole) {
+    std::string bare = test::head_of_team_file("Uno", "U");
+    std::string keyed = test::head_of_team_file("Due", "D");
+    for (int i = 0; i < 23; ++i) {
+        bare += std::to_string(i) + ",2,3,Bare\r\n";
+        keyed += "x" + std::to_string(i) + "=9,9,9,Keyed\r\n";
+    }
+    open(form.cmdTeam1, bare);
+    open(form.cmdteam2, keyed);
+    choose(form.ListVende, 3);
+    choose(form.ListCompra, 5);
+    run.click(form.OpRec);
+    run.click(form.cmdTransfer);
+    EXPECT_EQ(form.listTras2.item(10), "x5=3,2,3,Bare");
+    EXPECT_EQ(form.listTras1.item(8), "9,9,9,Keyed");
+    open(form.cmdteam2, bare);
+    choose(form.ListVende, 4);
+    choose(form.ListCompra, 6);
+    run.click(form.cmdTransfer);
+    EXPECT_EQ(form.listTras2.item(11), "4,2,3,Bare");
+    EXPECT_EQ(form.listTras1.item(9), "6,2,3,Bare");
+}
+
 TEST_F(Transfers, AskForTheMissingPlayer) {
     open_both();
     choose(form.ListVende, 2);

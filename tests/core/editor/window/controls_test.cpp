@@ -356,6 +356,7 @@ TEST_F(Controls, TellTheirViewOfTheirStateOnlyWhenItChanges) {
     EXPECT_EQ(changes, 2);
     label.set_hint("x");
     EXPECT_EQ(label.hint(), "x");
+    EXPECT_EQ(changes, 3);
 }
 
 }  // namespace

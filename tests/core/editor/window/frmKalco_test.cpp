@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
 #include <set>
 
 #include "editor/editor.h"
@@ -106,6 +107,63 @@ TEST_F(Window, KeepsOpenInReachOnEveryTab) {
     EXPECT_EQ(form.cmdOpen.frame(), nullptr);
     EXPECT_EQ(form.cmdOpen.caption(), "Apri Immagine CD");
     EXPECT_EQ(form.cmdNew.caption(), "New");
+}
+
+TEST_F(Window, CaptionsItsButtons) {
+    const std::map<std::string, std::string> captions{
+        {"cmdOpen", "Apri Immagine CD"},
+        {"cmdNew", "New"},
+        {"cmdName", "Modifica Nomi Squadre"},
+        {"cmdSottH", "-"},
+        {"cmdAddH", "+"},
+        {"cmdSottEta", "-"},
+        {"cmdAddEta", "+"},
+        {"cmdSaveCar", "Salva"},
+        {"cmdExp", "Exporta Squadra"},
+        {"cmdImp", "Importa Squadra"},
+        {"cmdImpML", "Importa Squadra Default ML"},
+        {"cmdLink", "Link"},
+        {"cmdImpNC", "Importa Squadra"},
+        {"cmdSaveNC", "Salva Modifica"},
+        {"cmdNuevo", "New"},
+        {"cmdHelp", "Help"},
+        {"cmdCrea", "&Salva"},
+        {"cmdExpKick", "&Export Kickers"},
+        {"cmdImpKick", "&Import Kickers"},
+        {"cmdTeam1", "Apri Squadra 1..."},
+        {"cmdteam2", "Apri Squadra 2..."},
+        {"cmdTransfer", "<---------  --------->"},
+        {"cmdSave1", "SaveTeam&1"},
+        {"cmdSave2", "SaveTeam&2"},
+        {"cmdModifica", "Salva &Modifica "},
+        {"cmdUp", ""},
+        {"cmdLeft", ""},
+        {"cmdRight", ""},
+        {"cmdDown", ""},
+        {"cmdMeno(1)", "-"},
+        {"cmdMeno(2)", "-"},
+        {"cmdMeno(3)", "-"},
+        {"cmdMeno(4)", "-"},
+        {"cmdMeno(5)", "-"},
+        {"cmdPiu(1)", "+"},
+        {"cmdPiu(2)", "+"},
+        {"cmdPiu(3)", "+"},
+        {"cmdPiu(4)", "+"},
+        {"cmdPiu(5)", "+"},
+        {"cmdSalva", "Salva Barre"},
+        {"cmdExport", "Export Fomazioni && Barre"},
+        {"cmdImport", "Import Fomazioni && Barre"},
+        {"cmdModNum", "Modifica Numero"},
+        {"cmdSaveNum", "Salva Modifica"},
+        {"cmdImpNum", "Importa Numeri"},
+        {"cmdExpNum", "Exporta Numeri"},
+    };
+    std::map<std::string, std::string> shown;
+    for (const Control* each : form.registry.all()) {
+        if (each->kind() != Kind::command_button) continue;
+        shown[each->name()] = static_cast<const CommandButton*>(each)->caption();
+    }
+    EXPECT_EQ(shown, captions);
 }
 
 TEST_F(Window, StartsWithTheseTexts) {

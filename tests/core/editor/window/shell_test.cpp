@@ -156,6 +156,19 @@ TEST_F(StartUp, LeavesAnExistingDirectoryAlone) {
     EXPECT_EQ(home.read("Export/kept.DAT"), "x");
 }
 
+TEST_F(StartUp, TellsThatTheDirectoryIsMissingAndStopsThere) {
+    platform.home = home.path("missing");
+    start("a.bin");
+    EXPECT_EQ(platform.missed, Texts{home.path("missing/Export")});
+    EXPECT_FALSE(form.ended);
+    EXPECT_TRUE(form.image.is_open());
+    EXPECT_EQ(form.txtName.max_length(), 0);
+    EXPECT_TRUE(runs.empty());
+    open("b.bin");
+    EXPECT_EQ(platform.missed.size(), 2U);
+    EXPECT_TRUE(platform.messages.empty());
+}
+
 TEST_F(CmdOpen, GoesOverToAnotherImage) {
     start("a.bin");
     user::pick(form, form.cboSeqSQ, 10);

@@ -2,17 +2,25 @@
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
+#include <functional>
 
 #include "disc/runtime_error.h"
 #include "support/fake_platform.h"
 #include "support/outcome.h"
+#include "support/system_faults.h"
 #include "support/temporary_home.h"
 
 namespace kalco {
 namespace {
 
 using test::error_of;
+using test::Fault;
+using test::SystemCall;
 using Lines = std::vector<std::string>;
 
 class SideFiles : public ::testing::Test {
@@ -96,8 +104,141 @@ TEST_F(SideFiles, TellThatTheyCannotBeWritten) {
     EXPECT_EQ(error_of([&] { write_lines(home.path("missing/file"), {"a"}); }), error::path_access);
     EXPECT_EQ(error_of([&] { write_lines(home.path(), {"a"}); }), error::path_access);
     EXPECT_FALSE(home.has("missing"));
-    if (::access("/dev/full", W_OK) != 0) GTEST_SKIP() << "no full device here";
-    EXPECT_EQ(error_of([] { write_lines("/dev/full", {"a"}); }), error::disk_full);
+}
+
+TEST_F(SideFiles, CannotBeWrittenWhereTheyCouldNotBeRead) {
+    ASSERT_EQ(::mkfifo(home.path("pipe").c_str(), 0600), 0);
+    for (const std::string& path : {home.path("pipe"), std::string("/dev/full"), std::string("/dev/null")}) {
+        EXPECT_EQ(error_of([&] { write_lines(path, {"a"}); }), error::path_access) << path;
+        EXPECT_EQ(error_of([&] { write_lines_made(path, [] { return Lines{"a"}; }); }), error::path_access) << path;
+    }
+    EXPECT_EQ(std::filesystem::status(home.path("pipe")).type(), std::filesystem::file_type::fifo);
+}
+
+TEST_F(SideFiles, AreNeverReadBeyondTheLargest) {
+    const std::string largest(largest_side_file, 'x');
+    EXPECT_EQ(lines_of(largest), Lines{largest});
+    EXPECT_EQ(error_of([&] { lines_of(largest + 'x'); }), error::out_of_memory);
+    EXPECT_EQ(error_of([&] { lines_of(std::string(10 << 20, '\n')); }), error::out_of_memory);
+    EXPECT_EQ(read_first_line(home.write("one", largest)), largest);
+    EXPECT_EQ(error_of([&] { read_first_line(home.write("one", largest + "x\r\n")); }), error::out_of_memory);
+}
+
+TEST_F(SideFiles, AreNotReadBehindTheirFirstLine) {
+    const std::string rest(3 << 20, 'x');
+    EXPECT_EQ(read_first_line(home.write("one", "ab\r\n" + rest)), "ab");
+    EXPECT_EQ(read_first_line(home.write("one", "\n" + rest)), "");
+    // Lines that end at and behind the end of a block.
+    for (const std::size_t length : {65535U, 65536U, 65537U, 200000U}) {
+        const std::string line(length, 'y');
+        EXPECT_EQ(read_first_line(home.write("one", line + '\r' + rest)), line) << length;
+    }
+}
+
+class ReplacedSideFile : public SideFiles {
+protected:
+    int writing_error(SystemCall call, std::deque<Fault> faults) {
+        const test::SystemFaults plan(call, std::move(faults));
+        const int number = error_of([&] { write_lines(path, {"new"}); });
+        EXPECT_EQ(plan.left(), 0U);
+        return number;
+    }
+    std::size_t files() const {
+        const std::filesystem::directory_iterator all(home.path());
+        return static_cast<std::size_t>(std::distance(begin(all), end(all)));
+    }
+
+    std::string path = home.write("a.DAT", "old");
+};
+
+TEST_F(ReplacedSideFile, StandsUntilTheNewOneIsWhole) {
+    EXPECT_EQ(writing_error(SystemCall::open, {{.error = ENOSPC}}), error::disk_full);
+    EXPECT_EQ(writing_error(SystemCall::open, {{.error = EDQUOT}}), error::disk_full);
+    EXPECT_EQ(writing_error(SystemCall::open, {{.error = EACCES}}), error::path_access);
+    EXPECT_EQ(writing_error(SystemCall::open, {{.error = EROFS}}), error::path_access);
+    EXPECT_EQ(writing_error(SystemCall::write, {{.error = ENOSPC}}), error::disk_full);
+    EXPECT_EQ(writing_error(SystemCall::write, {{.at_most = 2}, {.error = EFBIG}}), error::disk_full);
+    EXPECT_EQ(writing_error(SystemCall::write, {{.at_most = 2}, {.error = EIO}}), error::device_io);
+    EXPECT_EQ(writing_error(SystemCall::write, {{.at_most = 2}, {.at_most = 0}}), error::device_io);
+    EXPECT_EQ(writing_error(SystemCall::sync, {{.error = ENOSPC}}), error::disk_full);
+    EXPECT_EQ(writing_error(SystemCall::sync, {{.error = EIO}}), error::device_io);
+    EXPECT_EQ(writing_error(SystemCall::rename, {{.error = EIO}}), error::device_io);
+    EXPECT_EQ(home.read("a.DAT"), "old");
+    EXPECT_EQ(files(), 1U);
+}
+
+TEST_F(ReplacedSideFile, IsWrittenOnAfterSignalsAndInPieces) {
+    EXPECT_EQ(writing_error(SystemCall::open, {{.error = EINTR}}), 0);
+    EXPECT_EQ(writing_error(SystemCall::write, {{.error = EINTR}, {.at_most = 1}, {.at_most = 2}}), 0);
+    EXPECT_EQ(writing_error(SystemCall::sync, {{.error = EINTR}}), 0);
+    EXPECT_EQ(home.read("a.DAT"), "new\r\n");
+    EXPECT_EQ(files(), 1U);
+}
+
+TEST_F(ReplacedSideFile, IsBroughtToTheDiskWithItsName) {
+    // The file's own sync passes, that of its directory does not.
+    EXPECT_EQ(writing_error(SystemCall::sync, {{.passes = true}, {.error = EIO}}), error::device_io);
+    EXPECT_EQ(home.read("a.DAT"), "new\r\n");
+}
+
+TEST_F(ReplacedSideFile, StandsWhenTheProgramIsKilled) {
+    for (const SystemCall call : {SystemCall::open, SystemCall::write, SystemCall::sync, SystemCall::rename}) {
+        const pid_t child = ::fork();
+        if (child == 0) {
+            const test::SystemFaults plan(call, {{.kills = true}});
+            error_of([&] { write_lines(path, {"new"}); });
+            ::_exit(1);
+        }
+        int status = 0;
+        ::waitpid(child, &status, 0);
+        EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL);
+        EXPECT_EQ(home.read("a.DAT"), "old");
+    }
+    write_lines(path, {"new"});
+    EXPECT_EQ(home.read("a.DAT"), "new\r\n") << "what the killed ones left is in nobody's way";
+}
+
+TEST_F(ReplacedSideFile, IsLeftEmptyByAnErrorOfItsLines) {
+    const auto fail = []() -> Lines { throw RuntimeError(error::invalid_call); };
+    EXPECT_EQ(error_of([&] { write_lines_made(path, fail); }), error::invalid_call);
+    EXPECT_EQ(home.read("a.DAT"), "");
+    EXPECT_EQ(error_of([&] { write_lines_made(home.path("b.DAT"), fail); }), error::invalid_call);
+    EXPECT_EQ(home.read("b.DAT"), "");
+    EXPECT_EQ(files(), 2U);
+    EXPECT_EQ(error_of([&] { write_lines_made(home.path("missing/b.DAT"), fail); }), error::path_access);
+}
+
+TEST_F(ReplacedSideFile, KeepsItsModeAndItsLinks) {
+    ASSERT_EQ(::chmod(path.c_str(), 0640), 0);
+    std::filesystem::create_symlink("a.DAT", home.path("link.DAT"));
+    std::filesystem::create_symlink(home.path("link.DAT"), home.path("second.DAT"));
+    write_lines(home.path("second.DAT"), {"new"});
+    EXPECT_TRUE(std::filesystem::is_symlink(home.path("second.DAT")));
+    EXPECT_TRUE(std::filesystem::is_symlink(home.path("link.DAT")));
+    EXPECT_EQ(home.read("a.DAT"), "new\r\n");
+    EXPECT_EQ(std::filesystem::status(path).permissions(), std::filesystem::perms(0640));
+    std::filesystem::create_symlink("new.DAT", home.path("third.DAT"));
+    write_lines(home.path("third.DAT"), {"x"});
+    EXPECT_EQ(home.read("new.DAT"), "x\r\n");
+    std::filesystem::create_symlink("round.DAT", home.path("round.DAT"));
+    EXPECT_EQ(error_of([&] { write_lines(home.path("round.DAT"), {"x"}); }), error::path_access);
+}
+
+TEST_F(ReplacedSideFile, MustNotBeWriteProtected) {
+    constexpr uid_t nobody = 65534;
+    ASSERT_EQ(::chmod(home.path().c_str(), 0777), 0);
+    ASSERT_EQ(::chmod(path.c_str(), 0444), 0);
+    const pid_t child = ::fork();
+    if (child == 0) {
+        // Nothing is write-protected for root.
+        if (::geteuid() == 0 && ::setuid(nobody) != 0) ::_exit(1);
+        ::_exit(error_of([&] { write_lines(path, {"new"}); }));
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    EXPECT_EQ(WEXITSTATUS(status), error::path_access);
+    EXPECT_EQ(home.read("a.DAT"), "old");
+    EXPECT_EQ(files(), 1U);
 }
 
 TEST_F(SideFiles, LieInTheirDirectories) {

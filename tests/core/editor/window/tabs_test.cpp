@@ -118,7 +118,7 @@ class EveryTabChange : public ::testing::TestWithParam<std::tuple<int, int>> {};
 
 TEST_P(EveryTabChange, ResetsWhatTheTableTells) {
     const auto [from, to] = GetParam();
-    for (const int first_option : {0, 5}) {
+    for (const int first_option : {0, 5, 10}) {
         EditorRun run;
         run.form.slots.Read_Bar = [] {};
         user::select_tab(run.form, from);

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace kalco {
+
+/// The file that a path leads to when every link is followed, also where nothing is there yet.
+/// Throws std::system_error for links that lead in a circle.
+std::string link_target(const std::string& path);
+
+/// A file that takes its name only when it is complete: until then it is a part file beside, and what had the name
+/// stands. A part that is given up goes away again.
+///
+/// Every failure is a std::system_error whose what() is the path and the system's reason.
+class NewFile {
+public:
+    /// Links are followed: the file that they lead to is the one to be replaced. It has to be a plain file that may be
+    /// written; its mode, and its owner where that is allowed, are kept.
+    explicit NewFile(const std::string& path);
+    ~NewFile();
+    NewFile(const NewFile&) = delete;
+    NewFile& operator=(const NewFile&) = delete;
+
+    void write(std::string_view bytes);
+
+    enum class Existing { replace, keep };
+    /// Brings everything to the disk, gives the file its name and brings that to the disk. With `keep`, a file that has
+    /// the name is an error (EEXIST), also one that came up in the meantime.
+    void finish(Existing existing = Existing::replace);
+
+private:
+    std::string target_;
+    std::string part_;  ///< Empty once the name is taken.
+    int fd_ = -1;
+    std::int64_t end_ = 0;
+};
+
+}  // namespace kalco
