@@ -58,8 +58,8 @@ private:
     void written(ImagePos position, std::string_view bytes) override;
 };
 
-/// Runs the steps again and again with the first, second, ... write failing: each time the error is told, nothing
-/// behind the failing write reaches the image, and no message of success is shown.
+/// Runs the steps again and again with the write of the first, second, ... changed sector failing: each time the error
+/// is told, the image stays as it was, and no message of success is shown. The handlers make `least_writes` writes.
 void expect_every_failing_write_to_stop(const std::function<void(EditorRun&)>& prepare,
                                         const std::function<void(EditorRun&)>& save, std::size_t least_writes);
 

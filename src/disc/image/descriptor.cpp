@@ -5,16 +5,6 @@
 #include <cstddef>
 
 namespace kalco {
-namespace {
-
-template <typename Call>
-auto after_signals(Call call) {
-    auto result = call();
-    while (result == -EINTR) result = call();
-    return result;
-}
-
-}  // namespace
 
 Descriptor Descriptor::opened(FileSystem& files, const std::string& path, FileSystem::Access access) {
     return {files, after_signals([&] { return files.open(path, access); })};
@@ -26,6 +16,10 @@ Descriptor Descriptor::created(FileSystem& files, const std::string& path, unsig
 
 Descriptor::~Descriptor() {
     if (descriptor_ >= 0) files_->close(descriptor_);
+}
+
+int Descriptor::about(FileSystem::About& about) const {
+    return -after_signals([&] { return files_->about(descriptor_, about); });
 }
 
 int Descriptor::lock() const {

@@ -26,7 +26,7 @@ public:
     /// Why it could not be opened; 0 when it is open.
     int failure() const { return descriptor_ < 0 ? -descriptor_ : 0; }
 
-    int about(FileSystem::About& about) const { return -files_->about(descriptor_, about); }
+    int about(FileSystem::About& about) const;
     int lock() const;
     /// Fills `bytes`; what lies beyond the end is zero. `got` counts the bytes that lie before it.
     int read(std::span<char> bytes, std::int64_t offset, std::size_t& got) const;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cerrno>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -46,6 +47,14 @@ public:
     /// The absolute path without links; the path itself when it can't be found out.
     virtual std::string resolved(const std::string& path) = 0;
 };
+
+/// Makes a call again that a signal broke off.
+template <typename Call>
+auto after_signals(Call call) {
+    auto result = call();
+    while (result == -EINTR) result = call();
+    return result;
+}
 
 /// The real one.
 FileSystem& system_files();

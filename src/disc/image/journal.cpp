@@ -28,14 +28,14 @@ JournalPlace::JournalPlace(FileSystem& files, const std::string& image)
 
 int JournalPlace::check(const FileSystem::About& image) const {
     FileSystem::About here;
-    const int failure = -files_.about_path(image_, here);
+    const int failure = -after_signals([&] { return files_.about_path(image_, here); });
     if (failure != 0) return failure;
     return here.same_file(image) ? 0 : ENOENT;
 }
 
 Descriptor JournalPlace::open() const {
     FileSystem::About about;
-    int failure = -files_.about_path(path_, about);
+    int failure = -after_signals([&] { return files_.about_path(path_, about); });
     // Where no journal can be, there is none.
     if (failure == ENOTDIR || failure == ENAMETOOLONG) failure = ENOENT;
     if (failure == 0 && about.kind != FileSystem::Kind::file) failure = EACCES;
@@ -62,7 +62,7 @@ int JournalPlace::write(const Descriptor& file, const Save& save) const {
 }
 
 int JournalPlace::remove() const {
-    return -files_.remove(path_);
+    return -after_signals([this] { return files_.remove(path_); });
 }
 
 int JournalPlace::sync_directory() const {

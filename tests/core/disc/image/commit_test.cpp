@@ -56,6 +56,9 @@ int calls_of(const SaveCase& save) {
     return static_cast<int>(files.log().size());
 }
 
+/// The directory is opened and synced at the end.
+constexpr int calls_behind_removal = 2;
+
 class Commit : public ::testing::TestWithParam<std::size_t> {
 protected:
     const SaveCase save = test::save_cases()[GetParam()];
@@ -112,7 +115,9 @@ TEST_P(Commit, IsTheOldImageAfterAnyFailure) {
                                    ", errno " + std::to_string(code);
             // Closing a descriptor is no call, and a directory that refuses lets the save go without a journal.
             EXPECT_TRUE(outcome.told_saved || outcome.error != 0) << at;
-            const std::string& expected = outcome.told_saved || call == calls ? save.after : save.before;
+            // Once the journal is gone the save stands, though it is not sure to be told.
+            const bool stands = outcome.told_saved || call > calls - calls_behind_removal;
+            const std::string& expected = stands ? save.after : save.before;
             EXPECT_EQ(files.bytes(image_name), expected) << at;
             if (outcome.told_saved) {
                 EXPECT_EQ(code, EACCES) << at;
