@@ -5,6 +5,9 @@ file(GLOB fuzz_sources CONFIGURE_DEPENDS fuzz/fuzz_*.cpp)
 file(GLOB fuzz_shared CONFIGURE_DEPENDS fuzz/*.cpp)
 list(REMOVE_ITEM fuzz_shared ${fuzz_sources})
 
+# Those of the tests' support that the fuzzers need; the others need GoogleTest.
+list(APPEND fuzz_shared tests/support/fake_files.cpp tests/support/filled_disc.cpp tests/support/disc_tables.cpp)
+
 add_compile_options(-fsanitize=fuzzer-no-link)
 foreach(storey kalco_disc kalco_work kalco_editor)
     target_compile_options(${storey} PRIVATE -fsanitize=fuzzer-no-link)

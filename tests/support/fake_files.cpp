@@ -33,7 +33,7 @@ void FakeFiles::rename(const std::string& from, const std::string& to) {
     erase(from);
 }
 
-void FakeFiles::plan(int call, Fault fault) {
+void FakeFiles::plan(int call, CallFault fault) {
     log_.clear();
     fatal_call_ = static_cast<std::size_t>(call);
     fault_ = fault;
@@ -81,11 +81,11 @@ auto FakeFiles::call(const std::string& what, Steps steps) {
     using Result = decltype(steps());
     if (dead_) throw Killed();
     log_.push_back(what);
-    const Fault fault = log_.size() == fatal_call_ ? fault_ : Fault();
-    if (fault.kind == Fault::Kind::fails) return static_cast<Result>(-fault.code);
-    dead_ = fault.kind == Fault::Kind::killed_before || fault.kind == Fault::Kind::killed_after;
-    if (fault.kind == Fault::Kind::killed_before) throw Killed();
-    halfway_ = fault.kind == Fault::Kind::goes_halfway;
+    const CallFault fault = log_.size() == fatal_call_ ? fault_ : CallFault();
+    if (fault.kind == CallFault::Kind::fails) return static_cast<Result>(-fault.code);
+    dead_ = fault.kind == CallFault::Kind::killed_before || fault.kind == CallFault::Kind::killed_after;
+    if (fault.kind == CallFault::Kind::killed_before) throw Killed();
+    halfway_ = fault.kind == CallFault::Kind::goes_halfway;
     const Result result = steps();
     halfway_ = false;
     if (dead_) throw Killed();

@@ -16,7 +16,7 @@ namespace kalco::test {
 struct Killed {};
 
 /// Something goes wrong at one call.
-struct Fault {
+struct CallFault {
     enum class Kind {
         none,
         fails,         ///< With `code`, and has done nothing.
@@ -45,7 +45,7 @@ public:
     bool holds_descriptors() const { return !descriptors_.empty(); }
 
     /// Counts the calls from 1; at that number the fault happens. 0: never.
-    void plan(int call, Fault fault = {});
+    void plan(int call, CallFault fault = {});
     /// What was called since the plan, one word each, and on which file.
     const std::vector<std::string>& log() const { return log_; }
 
@@ -102,7 +102,7 @@ private:
 
     std::vector<std::string> log_;
     std::size_t fatal_call_ = 0;
-    Fault fault_;
+    CallFault fault_;
     bool halfway_ = false;
     bool dead_ = false;
     std::mt19937 chance_{1};

@@ -15,10 +15,10 @@
 namespace kalco {
 namespace {
 
+using test::CallFault;
 using test::Desk;
 using test::EverySave;
 using test::FakeFiles;
-using test::Fault;
 
 constexpr auto image_name = "disc.bin";
 constexpr auto journal_name = "disc.bin.kalco-journal";
@@ -43,7 +43,7 @@ struct Outcome {
 };
 
 /// Starts the editor on a full image, prepares the save and makes it, with a fault at one of its calls.
-Outcome run(FakeFiles& files, const EverySave& save, int call = 0, Fault fault = {}) {
+Outcome run(FakeFiles& files, const EverySave& save, int call = 0, CallFault fault = {}) {
     static const std::string image = test::filled_image();
     files.put(image_name, image);
     Outcome outcome;
@@ -111,7 +111,7 @@ TEST_P(EverySaveOf, IsWholeOrNotAtAllAfterAnyFailure) {
         if (!is_worth_a_fault(call)) continue;
         for (const int code : {EIO, ENOSPC}) {
             FakeFiles files;
-            const Outcome outcome = run(files, save, call, {Fault::Kind::fails, code});
+            const Outcome outcome = run(files, save, call, {CallFault::Kind::fails, code});
             ASSERT_TRUE(outcome.after == whole.before || outcome.after == whole.after) << at(call);
             if (outcome.told_saved) {
                 ASSERT_EQ(outcome.after, whole.after) << at(call);
@@ -129,7 +129,7 @@ TEST_P(EverySaveOf, IsWholeOrNotAtAllAfterAKillOrAStop) {
         if (!is_worth_a_fault(call) || log[static_cast<std::size_t>(call) - 1] == "read disc.bin") continue;
         for (const bool stop : {false, true, true}) {
             FakeFiles files;
-            run(files, save, call, {Fault::Kind::killed_after, 0});
+            run(files, save, call, {CallFault::Kind::killed_after, 0});
             if (stop) files.stop_machine(&chance);
             const std::string left = next_image(files);
             ASSERT_TRUE(left == whole.before || left == whole.after) << at(call);

@@ -10,8 +10,8 @@
 namespace kalco {
 namespace {
 
+using test::CallFault;
 using test::FakeFiles;
-using test::Fault;
 using test::image_name;
 using test::journal_name;
 using test::SaveCase;
@@ -24,7 +24,7 @@ struct Outcome {
 };
 
 /// Opens the image, makes the save and closes, with a fault at one of the calls from the save's first one on.
-Outcome run(FakeFiles& files, const SaveCase& save, int call, Fault fault) {
+Outcome run(FakeFiles& files, const SaveCase& save, int call, CallFault fault) {
     Outcome outcome;
     try {
         Image image(test::opener_on(files));
@@ -110,7 +110,7 @@ TEST_P(Commit, IsTheOldImageAfterAnyFailure) {
     for (int call = 1; call <= calls; ++call) {
         for (const int code : {EIO, ENOSPC, EACCES}) {
             FakeFiles files = files_with(save);
-            const Outcome outcome = run(files, save, call, {Fault::Kind::fails, code});
+            const Outcome outcome = run(files, save, call, {CallFault::Kind::fails, code});
             const std::string at = save.name + ", call " + std::to_string(call) + " of " + std::to_string(calls) +
                                    ", errno " + std::to_string(code);
             // Closing a descriptor is no call, and a directory that refuses lets the save go without a journal.
@@ -131,7 +131,8 @@ TEST_P(Commit, IsTheOldImageAfterAnyFailure) {
 
 TEST_P(Commit, GoesOnAfterSignalsAndHalfTransfers) {
     for (int call = 1; call <= calls; ++call) {
-        for (const Fault fault : {Fault{Fault::Kind::fails, EINTR}, Fault{Fault::Kind::goes_halfway, 0}}) {
+        for (const CallFault fault :
+             {CallFault{CallFault::Kind::fails, EINTR}, CallFault{CallFault::Kind::goes_halfway, 0}}) {
             FakeFiles files = files_with(save);
             const bool told = run(files, save, call, fault).told_saved;
             EXPECT_TRUE(told) << save.name << ' ' << call;
@@ -142,7 +143,7 @@ TEST_P(Commit, GoesOnAfterSignalsAndHalfTransfers) {
 
 TEST_P(Commit, IsTheOldOrTheNewImageAfterAKill) {
     for (int call = 1; call <= calls; ++call) {
-        for (const auto kind : {Fault::Kind::killed_before, Fault::Kind::killed_after}) {
+        for (const auto kind : {CallFault::Kind::killed_before, CallFault::Kind::killed_after}) {
             FakeFiles files = files_with(save);
             const Outcome outcome = run(files, save, call, {kind, 0});
             EXPECT_TRUE(outcome.killed);
@@ -157,7 +158,7 @@ TEST_P(Commit, IsTheOldOrTheNewImageWhateverAStopLoses) {
     for (int call = 1; call <= calls; ++call) {
         for (int round = 0; round < 40; ++round) {
             FakeFiles files = files_with(save);
-            run(files, save, call, {Fault::Kind::killed_after, 0});
+            run(files, save, call, {CallFault::Kind::killed_after, 0});
             files.stop_machine(round == 0 ? nullptr : &chance);
             const std::string left = test::after_next_opening(files);
             ASSERT_TRUE(left == save.before || left == save.after) << save.name << ' ' << call;
@@ -180,7 +181,7 @@ TEST_P(Commit, IsTheOldOrTheNewImageWhenAFailureIsFollowedByAStop) {
     for (int call = 1; call <= calls; ++call) {
         for (int round = 0; round < 20; ++round) {
             FakeFiles files = files_with(save);
-            run(files, save, call, {Fault::Kind::fails, EIO});
+            run(files, save, call, {CallFault::Kind::fails, EIO});
             files.stop_machine(&chance);
             const std::string left = test::after_next_opening(files);
             ASSERT_TRUE(left == save.before || left == save.after) << save.name << ' ' << call;
@@ -191,7 +192,7 @@ TEST_P(Commit, IsTheOldOrTheNewImageWhenAFailureIsFollowedByAStop) {
 TEST_P(Commit, SyncsNothingTwiceAfterAFailure) {
     for (int call = 1; call <= calls; ++call) {
         FakeFiles files = files_with(save);
-        run(files, save, call, {Fault::Kind::fails, EIO});
+        run(files, save, call, {CallFault::Kind::fails, EIO});
         const std::string failed = files.log()[static_cast<std::size_t>(call) - 1];
         if (!failed.starts_with("sync")) continue;
         EXPECT_EQ(std::count(files.log().begin() + call, files.log().end(), failed), 0) << failed;
@@ -202,13 +203,13 @@ TEST_P(Commit, CanBeInterruptedWhileItIsTakenBack) {
     std::mt19937 chance(static_cast<unsigned>(GetParam()) + 200);
     for (int call = 1; call <= calls; ++call) {
         FakeFiles killed = files_with(save);
-        run(killed, save, call, {Fault::Kind::killed_after, 0});
+        run(killed, save, call, {CallFault::Kind::killed_after, 0});
         // The next opening is killed at each of its calls in turn, and the one after that is left alone.
         for (int next = 1;; ++next) {
             FakeFiles files = files_with(save);
-            run(files, save, call, {Fault::Kind::killed_after, 0});
+            run(files, save, call, {CallFault::Kind::killed_after, 0});
             files.end_process();
-            files.plan(next, {Fault::Kind::killed_after, 0});
+            files.plan(next, {CallFault::Kind::killed_after, 0});
             bool through = false;
             try {
                 Image image(test::opener_on(files));
@@ -227,11 +228,11 @@ TEST_P(Commit, CanBeInterruptedWhileItIsTakenBack) {
 TEST_P(Commit, TellsAFailureWhileAnotherIsTakenBack) {
     for (int call = 1; call <= calls; ++call) {
         FakeFiles files = files_with(save);
-        run(files, save, call, {Fault::Kind::killed_after, 0});
+        run(files, save, call, {CallFault::Kind::killed_after, 0});
         files.end_process();
         int failures = 0;
         for (int next = 1;; ++next) {
-            files.plan(next, {Fault::Kind::fails, EIO});
+            files.plan(next, {CallFault::Kind::fails, EIO});
             try {
                 Image image(test::opener_on(files));
                 image.open(image_name);
@@ -259,7 +260,7 @@ TEST_P(Commit, GoesWithoutAJournalWhereNoneCanBeMade) {
     for (int call = 1; call <= static_cast<int>(log.size()); ++call) {
         FakeFiles failing = files_with(save);
         failing.protect_directory();
-        const Outcome outcome = run(failing, save, call, {Fault::Kind::fails, EIO});
+        const Outcome outcome = run(failing, save, call, {CallFault::Kind::fails, EIO});
         EXPECT_NE(outcome.error, 0);
         EXPECT_EQ(failing.bytes(image_name), save.before) << save.name << ' ' << call;
     }

@@ -12,8 +12,8 @@
 namespace kalco {
 namespace {
 
+using test::CallFault;
 using test::FakeFiles;
-using test::Fault;
 using test::image_name;
 using test::journal_name;
 using test::SaveCase;
@@ -27,7 +27,7 @@ FakeFiles interrupted(const SaveCase& save) {
         image.open(image_name);
         save.write(image);
         // About the image twice, the journal is made, written and synced, the directory opened and synced, a sector.
-        files.plan(8, {Fault::Kind::killed_after, 0});
+        files.plan(8, {CallFault::Kind::killed_after, 0});
         image.commit("save");
     } catch (const test::Killed&) {
     }
@@ -179,7 +179,7 @@ TEST_F(Recovery, CutsAnImageThatHadGrown) {
                 Image image(test::opener_on(grown_files));
                 image.open(image_name);
                 grown.write(image);
-                grown_files.plan(call, {Fault::Kind::killed_after, 0});
+                grown_files.plan(call, {CallFault::Kind::killed_after, 0});
                 image.commit("save");
             } catch (const test::Killed&) {
             }
@@ -235,7 +235,7 @@ TEST_F(Recovery, ShowsReadersTheImageBeforeTheSaveAtEveryMoment) {
                 Image image(test::opener_on(left));
                 image.open(image_name);
                 other.write(image);
-                left.plan(call, {Fault::Kind::killed_after, 0});
+                left.plan(call, {CallFault::Kind::killed_after, 0});
                 image.commit("save");
             } catch (const test::Killed&) {
             }
