@@ -4,6 +4,7 @@
 
 #include <map>
 
+#include "disc/team_names.h"
 #include "support/disc_tables.h"
 #include "support/editor_run.h"
 
@@ -85,7 +86,7 @@ TEST_P(RenameOfEveryTeam, ChangesWhatItMustAndNothingElse) {
     EditorRun run;
     Coder coder;
     const std::size_t letters = test::full_width_name(team).size();
-    const auto limit = static_cast<std::size_t>(full_width_letters(team));
+    const auto limit = static_cast<std::size_t>(full_width_letters(Team(team)));
     const std::vector<std::string> names{
         std::string(limit, 'Z'),                        // as long as the field takes
         std::string(letters, 'm'),                      // as long as the old one
@@ -127,13 +128,13 @@ TEST(TeamNames, LimitTheFullWidthNameToHalfItsBytes) {
     for (int team = 0; team < 96; ++team) {
         const int bytes = test::printed_teams[static_cast<std::size_t>(team)].full_width_bytes;
         const int limit = team == 4 ? 5 : team == 95 ? 0 : halves.at(bytes);
-        EXPECT_EQ(full_width_letters(team), limit) << team;
+        EXPECT_EQ(full_width_letters(Team(team)), limit) << team;
         run.choose_team(team);
         EXPECT_EQ(run.form.txtSqHEX.max_length(), limit) << team;
         EXPECT_EQ(run.form.txtSqShort.max_length(), 3) << team;
         EXPECT_EQ(run.form.txtSqDec.max_length(), 0) << team;
     }
-    EXPECT_EQ(full_width_letters(-1), 0);
+    EXPECT_EQ(full_width_letters(Team(-1)), 0);
 }
 
 TEST(TeamNames, SetTheLimitWhenTheFieldChanges) {
