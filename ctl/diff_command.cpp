@@ -1,10 +1,13 @@
 #include "ctl/diff_command.h"
 
+#include <algorithm>
+#include <functional>
 #include <iostream>
 #include <stdexcept>
 
 #include "ctl/command.h"
 #include "ctl/open_image.h"
+#include "ctl/progress.h"
 #include "ctl/table_json.h"
 #include "ctl/table_options.h"
 #include "work/other_bytes.h"
@@ -13,7 +16,8 @@
 namespace kalco::ctl {
 namespace {
 
-constexpr std::string_view text_format = "text";
+constexpr auto name = "diff";
+constexpr auto text_format = "text";
 
 void write_table(const std::vector<const Sheet*>& sheets, const std::vector<std::vector<FieldChange>>& changes,
                  TableFormat format) {
@@ -41,11 +45,11 @@ void write_run(const ByteRun& run, bool json) {
 }  // namespace
 
 CLI::App& add_diff_command(CLI::App& app, DiffOptions& options) {
-    CLI::App& command = *app.add_subcommand("diff", "Tell what two images differ in");
+    CLI::App& command = *app.add_subcommand(name, "Tell what two images differ in");
     command.add_option("A", options.before, "The image to start from")->required();
     command.add_option("B", options.after, "The image to compare it with")->required();
     add_sheet_option(command, options.sheet);
-    add_format_option(command, options.format, {std::string(text_format)});
+    add_format_option(command, options.format, {text_format});
     command.add_flag("--bytes", options.bytes, "Also tell what differs outside all fields, EDC and parities apart");
     command.footer(
         "As a table it is what `import A` takes to make B's data of A's. A CSV holds one sheet, that of the players\n"
@@ -65,8 +69,8 @@ int run_diff(const DiffOptions& options) {
 
     Image a(open_to_read);
     Image b(open_to_read);
-    open_image(a, options.before, "diff");
-    open_image(b, options.after, "diff");
+    open_image(a, options.before, name);
+    open_image(b, options.after, name);
     const DiscBytes before = read_sheets(a);
     const DiscBytes after = read_sheets(b);
     const std::vector<const Sheet*> sheets = chosen_sheets(options.sheet, format == TableFormat::csv);
@@ -84,7 +88,10 @@ int run_diff(const DiffOptions& options) {
         for (const FieldChange& change : of_sheet) write_change(change, json);
     }
     if (!options.bytes) return same ? done : no;
-    const std::vector<ByteRun> runs = other_differences(a, b);
+    const std::vector<ByteRun> runs = [&] {
+        Progress progress(name, std::max(a.length(), b.length()));
+        return other_differences(a, b, std::ref(progress));
+    }();
     for (const ByteRun& run : runs) write_run(run, json);
     return same && runs.empty() ? done : no;
 }

@@ -66,6 +66,8 @@ public:
             }
             cells.cells[column->second] = cell_of(value, number, key);
         }
+        cells_ += cells.cells.size();
+        if (cells_ > most_table_cells) throw TableError(number, {}, "too many cells");
         table.rows.push_back(std::move(cells));
     }
 
@@ -73,6 +75,7 @@ public:
 
 private:
     Tables tables_;
+    std::size_t cells_ = 0;
     std::map<std::string, std::size_t> places_;                ///< By sheet.
     std::vector<std::map<std::string, std::size_t>> columns_;  ///< By table: places by name.
 };

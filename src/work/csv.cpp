@@ -68,11 +68,13 @@ public:
         ++row_;
         std::vector<std::string> cells;
         do {
+            if (cells_ + cells.size() == most_table_cells) throw TableError(row_, {}, "too many cells");
             cells.emplace_back(next_cell());
         } while (take(separator_));
         if (!done() && !take('\n') && take('\r')) take('\n');
         return cells;
     }
+    void keep(const std::vector<std::string>& cells) { cells_ += cells.size(); }
 
 private:
     bool at_end_of_cell() const {
@@ -113,6 +115,7 @@ private:
     std::string_view rest_;
     char separator_;
     int row_ = 0;
+    std::size_t cells_ = 0;  ///< Of the rows that are kept.
 };
 
 bool is_empty(const std::vector<std::string>& cells) {
@@ -166,7 +169,9 @@ Table table_of_csv(std::string_view text) {
     for (std::string& name : reader.next_row()) table.columns.push_back({std::move(name)});
     while (!reader.done()) {
         std::vector<std::string> cells = reader.next_row();
-        if (!is_empty(cells)) table.rows.push_back({reader.row(), std::move(cells)});
+        if (is_empty(cells)) continue;
+        reader.keep(cells);
+        table.rows.push_back({reader.row(), std::move(cells)});
     }
     return table;
 }

@@ -63,7 +63,7 @@ std::string_view sector_in(std::string_view bytes, std::int64_t sector) {
 }  // namespace
 
 std::vector<ByteRun> other_differences(const Image& a, const Image& b,
-                                       const std::function<void(std::int64_t, std::int64_t)>& progress) {
+                                       const std::function<void(std::int64_t)>& progress) {
     constexpr std::int64_t sectors_at_once = 512;
     const std::int64_t length = std::max(a.length(), b.length());
     Comparison comparison;
@@ -75,7 +75,7 @@ std::vector<ByteRun> other_differences(const Image& a, const Image& b,
             const std::string_view other = sector_in(in_b, sector);
             if (one != other) comparison.compare(first + sector, one, other);
         }
-        if (progress) progress(std::min(length, (first + sectors_at_once) * sector_bytes), length);
+        if (progress) progress(std::min(length, (first + sectors_at_once) * sector_bytes));
     }
     return std::move(comparison).runs();
 }

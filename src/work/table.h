@@ -38,6 +38,9 @@ struct Table {
 /// A file's sheets in their order.
 using Tables = std::vector<Table>;
 
+/// More than any file of sheets has; the readers refuse a file with more, which would take memory for nothing.
+inline constexpr std::size_t most_table_cells = 1'000'000;
+
 /// The content of a cell that empties a text: two quote characters.
 inline constexpr std::string_view empty_text_cell = "\"\"";
 

@@ -75,6 +75,15 @@ TEST(TableJson, LimitsColumnsAndSheets) {
     EXPECT_EQ(refusal(sheets), std::pair(65, std::string("too many sheets")));
 }
 
+TEST(TableJson, LimitsTheNumberOfCells) {
+    std::string wide = "{\"c0\":1";
+    for (int i = 1; i < 250; ++i) wide += ",\"c" + std::to_string(i) + "\":1";
+    std::string text = wide + "}\n";
+    for (int i = 0; i < 3999; ++i) text += "{\"c0\":1}\n";
+    EXPECT_EQ(tables_of_json(text)[0].rows.size(), 4000U);
+    EXPECT_EQ(refusal(text + "{\"c0\":1}\n"), std::pair(4001, std::string("too many cells")));
+}
+
 TEST(TableFormats, FollowAFilesName) {
     EXPECT_EQ(format_of_path("a.json"), TableFormat::json);
     EXPECT_EQ(format_of_path("/x.json/A.JSON"), TableFormat::json);

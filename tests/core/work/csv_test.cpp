@@ -113,6 +113,18 @@ TEST(Csv, RefusesWhatIsNoTable) {
     EXPECT_EQ(refusal("id,name\r\nm001,ab\"c\"\r\n").second, "taken");
 }
 
+TEST(Csv, LimitsTheNumberOfCells) {
+    const std::string row = "x" + std::string(9999, ',') + '\n';
+    std::string csv = "id\n";
+    for (int i = 0; i < 100; ++i) csv += row;
+    EXPECT_EQ(table_of_csv(csv).rows.size(), 100U);
+    EXPECT_EQ(refusal(csv + "x\n"), std::pair(102, std::string("too many cells")));
+    // Empty rows cost nothing, however many they are.
+    for (int i = 0; i < 100; ++i) csv += std::string(9999, ',') + '\n';
+    EXPECT_EQ(table_of_csv(csv).rows.size(), 100U);
+    EXPECT_EQ(refusal(std::string(2000000, ',')), std::pair(1, std::string("too many cells")));
+}
+
 TEST(Csv, IsEmptyWhenNothingIsThere) {
     EXPECT_TRUE(table_of_csv("").columns.empty());
     EXPECT_TRUE(table_of_csv("\xEF\xBB\xBF").columns.empty());

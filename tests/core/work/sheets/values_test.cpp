@@ -5,6 +5,7 @@
 #include <random>
 
 #include "disc/codec/latin1.h"
+#include "disc/numbers.h"
 #include "disc/player_record.h"
 #include "support/filled_disc.h"
 #include "support/sheet_disc.h"
@@ -252,6 +253,60 @@ TEST(Values, OfTheRecordAreWhatTheEditorShows) {
         }
     }
     EXPECT_EQ(compared, player_rows * (13 + 16));
+}
+
+TEST(Values, OfTheShirtNumbersAreWhatTheEditorShows) {
+    const DiscBytes disc = test::sheets_of(test::demo_image_bytes());
+    const Sheet& sheet = *sheet_named("numbers");
+    for (const TeamRow row : every<TeamRow>()) {
+        const std::string record = disc.read(number_field(row));
+        const auto entries = is_nation(row) ? decode_national_numbers(record) : decode_club_numbers(record);
+        for (std::size_t player = 0; player < 23; ++player) {
+            EXPECT_EQ(std::stoi(cell_at(disc, sheet.columns[player], row.value())), std::stoi(entries[player]))
+                << sheet.id(row.value()) << ' ' << player;
+        }
+    }
+}
+
+/// The places that the manual lists.
+TEST(Values, DifferFromWhatTheEditorShowsInRareRecordsOnly) {
+    DiscBytes disc = test::sheets_of(test::demo_image_bytes());
+    const auto stored = [&](std::uint32_t first, std::uint32_t second, std::uint32_t third) {
+        disc.write(player_record_field(place_of_row(0)), record_of_words({first, second, third}));
+        return [&](const char* name) { return cell_at(disc, column("players", name), 0); };
+    };
+    const auto shown = [&] { return decode_player(words_of_record(disc.read(player_record_field(place_of_row(0))))); };
+
+    auto cell_of = stored((8U << 20) | (4U << 26) | (1U << 3) | 2, 0, 0);
+    EXPECT_EQ(cell_of("role"), "Terzino");
+    EXPECT_NE(shown().role, "Terzino");
+    cell_of = stored((3U << 20) | (4U << 26) | (1U << 13) | 2, 0, 0);
+    EXPECT_EQ(cell_of("height"), "#3");
+    EXPECT_EQ(cell_of("number"), "5");
+    EXPECT_EQ(shown().height, "215");
+    EXPECT_EQ(shown().number, "4");
+    cell_of = stored((7U << 20) | (1U << 26), 0, 0);
+    EXPECT_EQ(cell_of("number"), "2");
+    EXPECT_EQ(shown().number, "1");
+    cell_of = stored((8U << 20) | (4U << 26), 0, 0);
+    EXPECT_EQ(cell_of("height"), "156");
+    EXPECT_EQ(shown().height, "155");
+    for (const std::uint32_t beard : {1U << 13, 1U << 17}) {
+        cell_of = stored((30U << 20) | (4U << 26) | beard, 0, 0);
+        EXPECT_EQ(cell_of("role"), "Portiere");
+        EXPECT_EQ(cell_of("beard_style") + cell_of("beard_colour"), beard == 1U << 13 ? "BA" : "AB");
+        EXPECT_EQ(shown().beard_style + shown().beard_colour, "AA");
+        EXPECT_EQ(shown().role, std::nullopt);
+        EXPECT_EQ(shown().hair_style, std::nullopt);
+    }
+    cell_of = stored(0, 0, 1U << 27);
+    EXPECT_EQ(cell_of("boots"), "B");
+    EXPECT_EQ(shown().boots, "A");
+    cell_of = stored(0, 0, (3U << 30) | (2U << 27));
+    EXPECT_EQ(cell_of("foot"), "#3");
+    EXPECT_EQ(cell_of("boots"), "C");
+    EXPECT_EQ(shown().foot, "Ambi");
+    EXPECT_EQ(shown().boots, "B");
 }
 
 TEST(Values, OfAFilledDiscAreWhatItHolds) {
