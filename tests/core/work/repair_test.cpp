@@ -55,7 +55,7 @@ TEST(Repair, MakesEverySectorFitAndChangesNothingElse) {
         for (std::size_t k = 0; k < sectors.size(); ++k) {
             if (random() % 3 != 0) continue;
             RawSector& sector = sectors[k];
-            for (unsigned errors = 1 + random() % 9; errors > 0; --errors) {
+            for (auto errors = 1 + random() % 9; errors > 0; --errors) {
                 const std::size_t place = 24 + random() % 2328;
                 sector[place] = static_cast<std::uint8_t>(random() | 1U);
             }
