@@ -219,7 +219,8 @@ TEST_F(DemoImage, NumbersEveryTeamWithoutRepeats) {
         // A nation's players carry the number in their records too.
         if (!is_nation(TeamRow(row)) || Team(row) == shifted_team) continue;
         for (int player = 0; player < roster_players; ++player) {
-            const DecodedPlayer decoded = decode_player(words_of_record(image.read(roster_record_field({Team(row), player}))));
+            const DecodedPlayer decoded =
+                decode_player(words_of_record(image.read(roster_record_field({Team(row), player}))));
             EXPECT_EQ(std::stoi(decoded.number.value()), std::stoi(entries[static_cast<std::size_t>(player)]));
         }
     }
