@@ -16,7 +16,7 @@ namespace {
 namespace fs = std::filesystem;
 
 struct Closing {
-    void operator()(std::FILE* file) const { std::fclose(file); }
+    void operator()(std::FILE* file) const { static_cast<void>(std::fclose(file)); }
 };
 using File = std::unique_ptr<std::FILE, Closing>;
 

@@ -22,6 +22,7 @@ public:
     constexpr std::size_t place() const { return static_cast<std::size_t>(value_); }
     constexpr bool exists() const { return value_ >= 0 && value_ < size; }
 
+    // NOLINTNEXTLINE(modernize-use-nullptr): the check takes what the compiler writes here for a pointer
     friend constexpr auto operator<=>(const Index&, const Index&) = default;
     constexpr Index& operator++() {
         ++value_;
