@@ -3,7 +3,8 @@
 namespace kalco::ctl {
 namespace {
 
-volatile std::sig_atomic_t noted = 0;
+// A handler can reach nothing else.
+volatile std::sig_atomic_t noted = 0;  // NOLINT(*-avoid-non-const-global-variables)
 
 extern "C" void note(int signal) {
     noted = signal;
@@ -27,7 +28,8 @@ Interruption::~Interruption() {
     for (std::size_t i = 0; i < signals.size(); ++i) ::sigaction(signals[i], &before_[i], nullptr);
 }
 
-void Interruption::check() const {
+// A member, so that only who holds one asks.
+void Interruption::check() const {  // NOLINT(readability-convert-member-functions-to-static)
     if (noted != 0) throw Interrupted{noted};
 }
 

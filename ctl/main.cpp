@@ -22,9 +22,8 @@
 #include "disc/image/process.h"
 #include "editor/editor.h"
 
+namespace kalco {
 namespace {
-
-using namespace kalco;
 
 int run_on_model(std::istream& script, script::ScriptPlatform& platform, std::ostream& complaints) {
     Editor editor(platform);
@@ -101,21 +100,22 @@ int run(int argc, char** argv) {
 }
 
 }  // namespace
+}  // namespace kalco
 
 int main(int argc, char** argv) {
-    guard_process();
+    kalco::guard_process();
     // A reader that goes away is told as lost output, when the work is done.
     static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
-    int status = ctl::trouble;
+    int status = kalco::ctl::trouble;
     try {
-        status = run(argc, argv);
-    } catch (const ctl::Interrupted& interrupted) {
+        status = kalco::run(argc, argv);
+    } catch (const kalco::ctl::Interrupted& interrupted) {
         static_cast<void>(std::signal(interrupted.signal, SIG_DFL));
         static_cast<void>(std::raise(interrupted.signal));
     } catch (const std::exception& failure) {
         static_cast<void>(std::fprintf(stderr, "kalcoctl: %s\n", failure.what()));
     }
-    if (ctl::output_arrived()) return status;
+    if (kalco::ctl::output_arrived()) return status;
     static_cast<void>(std::fputs("kalcoctl: standard output can't be written\n", stderr));
-    return ctl::trouble;
+    return kalco::ctl::trouble;
 }

@@ -10,7 +10,7 @@
 namespace kalco::ctl {
 namespace {
 
-std::string or_quotes(std::string cell) {
+std::string or_quotes(const std::string& cell) {
     return cell.empty() ? std::string(empty_text_cell) : cell;
 }
 

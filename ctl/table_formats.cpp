@@ -39,6 +39,7 @@ std::string small_letters(std::string_view text) {
 
 std::vector<std::string_view> format_names() {
     std::vector<std::string_view> names;
+    names.reserve(named_formats.size());
     for (const NamedFormat& each : named_formats) names.push_back(each.name);
     return names;
 }

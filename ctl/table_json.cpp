@@ -30,7 +30,7 @@ Json parse_line(std::string_view line, int number) {
         }
         return flat;
     };
-    const Json row = Json::parse(line, watch, false);
+    Json row = Json::parse(line, watch, false);
     if (!flat || !row.is_object()) throw TableError(number, {}, "not an object of texts and numbers");
     if (twice) throw TableError(number, {}, "twice the same key");
     return row;

@@ -36,7 +36,7 @@ std::filesystem::path user_data_directory() {
 
 std::string program_directory() {
     std::error_code failure;
-    const std::string own = std::filesystem::read_symlink("/proc/self/exe", failure).parent_path().string();
+    std::string own = std::filesystem::read_symlink("/proc/self/exe", failure).parent_path().string();
     if (!failure && !is_system_program_directory(own) && writable(own)) return own;
     const auto data = user_data_directory();
     std::filesystem::create_directories(data, failure);

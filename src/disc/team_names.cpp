@@ -13,10 +13,10 @@ constexpr Team last_club_team{default_list.value() - 1};
 
 /// A run of entries that lie below each other without a gap, one for each team.
 struct NameBlock {
-    Table table;
+    Table table = t1;
     Team first_team;
     Team last_team;
-    ImagePos first_position;
+    ImagePos first_position = 0;
 };
 
 constexpr std::array<NameBlock, 10> name_blocks{{
@@ -34,9 +34,9 @@ constexpr std::array<NameBlock, 10> name_blocks{{
 
 /// Entries whose slot is wider than their length and terminator.
 struct WideSlot {
-    Table table;
+    Table table = t1;
     Team team;
-    int bytes;
+    int bytes = 0;
 };
 constexpr std::array<WideSlot, 3> wide_slots{{{t2, Team(80), 8}, {t6, Team(35), 16}, {t6, Team(52), 16}}};
 

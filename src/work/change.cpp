@@ -7,7 +7,7 @@
 namespace kalco {
 namespace {
 
-std::string cell_or_quotes(std::string cell) {
+std::string cell_or_quotes(const std::string& cell) {
     return cell.empty() ? std::string(empty_text_cell) : cell;
 }
 

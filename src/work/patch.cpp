@@ -91,15 +91,15 @@ bool block_fits(const Image& image, const PpfPatch& patch) {
     if (!patch.block()) return true;
     const std::uint64_t start = ppf_block_offset(patch.image());
     std::string block = image.read(static_cast<ImagePos>(start) + 1, ppf_block_bytes);
-    const auto& records = patch.records();
-    for (auto record = records.rbegin(); record != records.rend(); ++record) {
-        for (std::size_t i = 0; i < record->old_bytes.size(); ++i) {
-            const std::uint64_t offset = record->offset + i;
+    const auto put_back = [&block, start](const PpfRecord& record) {
+        for (std::size_t i = 0; i < record.old_bytes.size(); ++i) {
+            const std::uint64_t offset = record.offset + i;
             if (offset < start || offset >= start + ppf_block_bytes) continue;
             char& byte = block[static_cast<std::size_t>(offset - start)];
-            if (byte == record->new_bytes[i]) byte = record->old_bytes[i];
+            if (byte == record.new_bytes[i]) byte = record.old_bytes[i];
         }
-    }
+    };
+    std::for_each(patch.records().rbegin(), patch.records().rend(), put_back);
     return block == *patch.block();
 }
 

@@ -45,7 +45,7 @@ template <typename Colour>
 void add_coloured(std::string& text, std::string_view drawing, const Colour& colour) {
     constexpr std::size_t colour_length = 7;
     for (std::size_t hash = 0; (hash = drawing.find('#')) != std::string_view::npos;) {
-        const auto token = std::ranges::find(tokens, drawing.substr(hash, colour_length));
+        const auto* const token = std::ranges::find(tokens, drawing.substr(hash, colour_length));
         text += drawing.substr(0, hash);
         if (token == tokens.end()) {
             text += '#';
@@ -115,10 +115,11 @@ std::string portrait_symbols() {
     const std::string side = std::to_string(portrait_side);
     std::string text;
     for (const EmbeddedFile& part : portrait_parts()) {
-        text += "<symbol id=\"p-";
+        text += R"(<symbol id="p-)";
         text += part.name;
-        text += "\" viewBox=\"0 0 " + side + ' ' + side + "\">";
-        add_coloured(text, body_of(part), [](std::size_t i) { return std::string("var(--") + variables[i] + ')'; });
+        text.append(R"(" viewBox="0 0 )").append(side).append(" ").append(side).append(R"(">)");
+        add_coloured(text, body_of(part),
+                     [](std::size_t i) { return std::string("var(--").append(1, variables[i]).append(")"); });
         text += "</symbol>\n";
     }
     return text;
@@ -148,9 +149,9 @@ std::string portrait_use(const Looks& looks) {
     text += digit_in(hair_palette, looks.hair_colour);
     text += " b";
     text += digit_in(beard_palette, looks.beard_colour);
-    text += "\" aria-hidden=\"true\">";
+    text += R"(" aria-hidden="true">)";
     for (const EmbeddedFile* part : parts_of(looks)) {
-        text += "<use href=\"#p-";
+        text += R"(<use href="#p-)";
         text += part->name;
         text += "\"/>";
     }

@@ -18,7 +18,7 @@ std::size_t next_difference(std::string_view before, std::string_view after, std
     const std::size_t size = before.size();
     while (from + stride <= size && std::memcmp(before.data() + from, after.data() + from, stride) == 0) from += stride;
     const auto start = static_cast<std::ptrdiff_t>(from);
-    const auto found = std::mismatch(before.begin() + start, before.end(), after.begin() + start).first;
+    const auto* const found = std::mismatch(before.begin() + start, before.end(), after.begin() + start).first;
     return static_cast<std::size_t>(found - before.begin());
 }
 

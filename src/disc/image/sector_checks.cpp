@@ -57,7 +57,7 @@ public:
 
     // P: 86 columns of 24 bytes. Q: 52 diagonals of 43 bytes, through the P parity too.
     void renew() {
-        using namespace layout;
+        using layout::data_rows, layout::p, layout::q, layout::row_bytes, layout::rows;
         for (std::size_t column = 0; column < row_bytes; ++column) {
             CheckBytes check;
             for (std::size_t row = 0; row < data_rows; ++row) check.add(byte(row * row_bytes + column));

@@ -27,7 +27,7 @@ template <typename Steps>
 auto act(frmKalco& form, Steps steps) {
     constexpr std::string_view unnamed = "Modifica";
     try {
-        const auto outcome = steps();
+        auto outcome = steps();
         form.image.commit(unnamed);
         return outcome;
     } catch (const RuntimeError&) {

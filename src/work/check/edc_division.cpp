@@ -68,8 +68,8 @@ template <typename Narrow, typename Wide>
 
 bool edc_fits_by_division(std::span<const std::uint8_t> bytes_with_edc) {
     using Widest = Block<std::uint64_t, 4>;
-    std::array<Widest, sector_bytes / sizeof(Widest) + 1> message;
-    message[0] = {};  // zeroes in front change nothing
+    std::array<Widest, sector_bytes / sizeof(Widest) + 1> message;  // NOLINT(*-member-init): filled below, for speed
+    message[0] = {};                                                // zeroes in front change nothing
     const std::size_t count = (bytes_with_edc.size() + sizeof(Widest) - 1) / sizeof(Widest);
     const std::size_t in_front = count * sizeof(Widest) - bytes_with_edc.size();
     std::memcpy(reinterpret_cast<std::uint8_t*>(message.data()) + in_front, bytes_with_edc.data(),

@@ -63,7 +63,7 @@ constexpr std::array<std::uint64_t, 2> carry_on{power(bits + 64 - 32), power(bit
     const __m128i over_one = load(carry_on<block_bits>.data());
     for (std::size_t k = 1; k < lanes; ++k) block[k] = folded(block[k - 1], over_one, block[k]);
 
-    std::array<std::uint8_t, block_bytes> left;
+    std::array<std::uint8_t, block_bytes> left{};
     std::memcpy(left.data(), &block[lanes - 1], left.size());
     return edc_rest(left) == 0;
 }

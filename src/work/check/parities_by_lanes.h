@@ -35,7 +35,7 @@ public:
     [[gnu::always_inline]] static void store(std::uint8_t* to, const Bytes& bytes) { std::memcpy(to, &bytes, width); }
 
     [[gnu::always_inline]] static void times_a(Bytes& bytes) {
-        const Bytes carried = reinterpret_cast<Bytes>(reinterpret_cast<Signed>(bytes) < 0);
+        const auto carried = reinterpret_cast<Bytes>(reinterpret_cast<Signed>(bytes) < 0);
         bytes = (bytes + bytes) ^ (carried & 0x1D);
     }
     [[gnu::always_inline]] static void times_a_26(Bytes& bytes) {
@@ -46,7 +46,7 @@ public:
     }
     [[gnu::always_inline]] static void clear_front(Bytes& bytes, std::size_t count) { std::memset(&bytes, 0, count); }
     [[gnu::always_inline]] static bool is_zero(const Bytes& bytes) {
-        std::array<std::uint64_t, width / sizeof(std::uint64_t)> words;
+        std::array<std::uint64_t, width / sizeof(std::uint64_t)> words{};
         std::memcpy(words.data(), &bytes, width);
         std::uint64_t any = 0;
         for (const std::uint64_t word : words) any |= word;
@@ -107,8 +107,8 @@ template <std::size_t width>
     constexpr std::size_t places = DiagonalRows::row_distance;
     constexpr std::size_t at_once = 5;  // of vectors, so that their sums stay in registers
     static_assert(places % (at_once * width) == 0);
-    alignas(width) std::array<std::uint8_t, places> plain;
-    alignas(width) std::array<std::uint8_t, places> weighted;
+    alignas(width) std::array<std::uint8_t, places> plain;     // NOLINT(*-member-init): filled below, for speed
+    alignas(width) std::array<std::uint8_t, places> weighted;  // NOLINT(*-member-init): likewise
     for (std::size_t part = 0; part < places; part += at_once * width) {
         typename L::Sums sums[at_once];
         for (std::size_t row = 1; row <= layout::rows; ++row) {

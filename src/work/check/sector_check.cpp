@@ -9,7 +9,8 @@ CheckFields SectorCheck::operator()(std::int64_t number, SectorKind kind, Sector
 }
 
 bool SectorCheck::fits(SectorKind kind, SectorView sector) {
-    using namespace layout;
+    using layout::edc_bytes, layout::form1_edc, layout::form2_edc, layout::mode1_edc, layout::parity_start,
+        layout::sub_header;
     const auto area = sector.subspan<parity_start>();
     switch (kind) {
         case SectorKind::mode1:
