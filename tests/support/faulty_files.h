@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "support/fake_files.h"
@@ -55,11 +56,11 @@ public:
 
 private:
     template <typename Steps>
-    auto call(const char* what, Steps steps) {
+    std::invoke_result_t<Steps> call(const char* what, Steps steps) {
         if (dead_) throw Killed();
         log_.emplace_back(what);
         const CallFault fault = log_.size() == fatal_call_ ? fault_ : CallFault();
-        using Result = decltype(steps());
+        using Result = std::invoke_result_t<Steps>;
         if (fault.kind == CallFault::Kind::fails) return static_cast<Result>(-fault.code);
         dead_ = fault.kind == CallFault::Kind::killed_before || fault.kind == CallFault::Kind::killed_after;
         if (fault.kind == CallFault::Kind::killed_before) throw Killed();

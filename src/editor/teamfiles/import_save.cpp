@@ -35,7 +35,8 @@ void SALV_IMP(frmKalco& form) {
 
 void RoutLung2(frmKalco& form) {
     const Team team(form.cboSeqSQ.row());
-    if (has_roster(team)) save_imported_team(form, team);
+    if (has_roster(team)) return save_imported_team(form, team);
+    form.image.commit("Squadra: " + form.cboSeqSQ.text());
 }
 
 void SAVE_IMP_ML(frmKalco& form) {

@@ -190,9 +190,44 @@ TEST_F(Scripts, EchoNamesCutAndWithoutControlCharacters) {
     expect_complaint("click \x1Bx", "line 3: unknown control \\x1bx\n");
 }
 
+TEST_F(Scripts, TakeSavesBackAndMakeThemAgain) {
+    const std::string team = "pick cboSeqSQ 10\npick listDat 3\n";
+    const std::string save = team + "type txtName \"Nuovo\"\nclick cmdSaveCar\n";
+    const std::string saved = R"({"event": "message", "icon": "information", "buttons": "ok", )"
+                              R"("text": "Salvataggio effettuato con successo", "answer": "ok"})"
+                              "\n";
+    const std::string before = disc().bytes;
+    EXPECT_EQ(printed("undo\nredo\n" + save + "undo\nundo\nredo\nredo\nundo\n"),
+              R"({"event": "undone", "what": null})"
+              "\n"
+              R"({"event": "redone", "what": null})"
+              "\n" +
+                  saved +
+                  R"({"event": "undone", "what": "Giocatore: Italy, Nuovo"})"
+                  "\n"
+                  R"({"event": "undone", "what": null})"
+                  "\n"
+                  R"({"event": "redone", "what": "Giocatore: Italy, Nuovo"})"
+                  "\n"
+                  R"({"event": "redone", "what": null})"
+                  "\n"
+                  R"({"event": "undone", "what": "Giocatore: Italy, Nuovo"})"
+                  "\n");
+    EXPECT_EQ(disc().bytes, before);
+}
+
+TEST_F(Scripts, ShowTheImageAgainAfterTakingBack) {
+    const std::string state = printed("pick cboSeqSQ 10\npick listDat 3\nshow txtName\nshow listDat\n");
+    const std::string line = state.substr(state.find('\n') + 1);
+    const std::string again =
+        printed("pick cboSeqSQ 10\npick listDat 3\ntype txtName \"Nuovo\"\nclick cmdSaveCar\nundo\npick listDat 3\n"
+                "show listDat\n");
+    EXPECT_EQ(again.substr(again.size() - line.size()), line);
+}
+
 TEST_F(Scripts, NeedTheStartFirst) {
     for (const char* line : {"tab 1", "pick cboSeqSQ 0", "doubleclick listNC 0", "click cmdNew", "type txtName \"x\"",
-                             "focus txtName", "show txtName", "close"}) {
+                             "focus txtName", "show txtName", "close", "undo", "redo"}) {
         EXPECT_EQ(play_all(std::string("\n# x\n") + line), exit_unrunnable) << line;
         EXPECT_EQ(complaint, "line 3: the program is not started\n");
         EXPECT_EQ(output, "");

@@ -98,7 +98,8 @@ TEST_P(PitchOfEveryRow, SavesWhatItReadUnchanged) {
     tab.choose(GetParam());
     tab.click(tab.form.cmdModifica);
     EXPECT_TRUE(same_image(tab.disc.bytes, filled_image()));
-    EXPECT_GT(tab.disc.writes, 0);
+    EXPECT_FALSE(tab.log.empty());
+    EXPECT_EQ(tab.disc.writes, 0) << "nothing reaches the disk";
 }
 
 INSTANTIATE_TEST_SUITE_P(Rows, PitchOfEveryRow, ::testing::Range(0, 87));
@@ -219,7 +220,7 @@ TEST(PitchSave, WithoutATeamDoesNothing) {
     EXPECT_FALSE(tab.form.Frame6.enabled());
 }
 
-TEST(PitchSave, StopsAtAFailingWrite) {
+TEST(PitchSave, LeavesTheOldImageAtAFailingWrite) {
     for (const int row : {10, 32, 86}) {
         const int writes = row == 32 ? 2 : 1;
         for (int failing = 1; failing <= writes; ++failing) {
@@ -231,11 +232,7 @@ TEST(PitchSave, StopsAtAFailingWrite) {
                 tab.disc.failure = failure;
                 EXPECT_EQ(error_of([&] { tab.click(tab.form.cmdModifica); }), failure);
                 EXPECT_EQ(tab.told(), Texts{});
-                std::string expected = filled_image();
-                const std::string bytes =
-                    bytes_of_digits(std::string(module_rows[4].roles) + std::string(module_rows[4].x));
-                if (failing == 2) put(expected, 2304661, bytes);
-                EXPECT_TRUE(same_image(tab.disc.bytes, expected)) << row;
+                EXPECT_TRUE(same_image(tab.disc.bytes, filled_image())) << row;
             }
         }
     }

@@ -311,6 +311,7 @@ TEST(PlayerSave, PacksEveryFieldThatIsEdited) {
 TEST(PlayerSave, TellsFirstReopensThenAndSelectsAgain) {
     EditorRun run;
     run.choose_team(12);
+    change_defence(run);
     run.disc.flushes = 0;
     run.click(run.form.cmdSaveCar);
     EXPECT_EQ(run.disc.flushes, 1);
@@ -327,13 +328,14 @@ TEST(PlayerSave, TellsFirstReopensThenAndSelectsAgain) {
     EXPECT_EQ(run.NAMES_GIOC_NAZ, names);
 }
 
-TEST(PlayerSave, TellsAReopeningThatCannotBringTheBytesToTheDisk) {
+TEST(PlayerSave, TellsBytesThatCannotBeBroughtToTheDisk) {
     EditorRun run;
     run.choose_team(12);
+    change_defence(run);
     run.flush_failure = error::disk_full;
     EXPECT_EQ(test::error_of([&] { user::click(run.form, run.form.cmdSaveCar); }), error::disk_full);
-    EXPECT_FALSE(run.form.image.is_open());
-    EXPECT_FALSE(run.disc.held);
+    EXPECT_TRUE(run.told().empty());
+    EXPECT_TRUE(same_image(run.disc.bytes, test::filled_image()));
     EXPECT_EQ(run.NAMES_GIOC_NAZ, 0);
 }
 

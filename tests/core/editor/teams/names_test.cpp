@@ -334,6 +334,7 @@ TEST(TeamNames, DecodeTheSplitNamePieceByPiece) {
 TEST(TeamNames, ReopenTheImageAfterTheMessage) {
     EditorRun run;
     run.choose_team(10);
+    run.type(run.form.txtSqDec, "nuovo");
     run.disc.flushes = 0;
     run.click(run.form.cmdName);
     EXPECT_EQ(run.disc.flushes, 1);
