@@ -43,7 +43,7 @@ need() {
         as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
 }
 
-build_packages=(g++:g++ cmake:cmake ninja-build:ninja ccache:ccache libcli11-dev nlohmann-json3-dev
+build_packages=(g++:g++ cmake:cmake ninja-build:ninja ccache:ccache libcli11-dev nlohmann-json3-dev libpugixml-dev
     qt6-base-dev qt6-svg-dev libgl-dev)
 run_packages=(libqt6svg6 libqt6svgwidgets6 fonts-dejavu-core)
 test_packages=(python3:python3 clang:clang++ libclang-rt-dev clang-format:clang-format clang-tidy:clang-tidy libgtest-dev

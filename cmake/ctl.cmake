@@ -3,6 +3,7 @@
 
 find_package(CLI11 REQUIRED)
 find_package(nlohmann_json REQUIRED)
+find_package(pugixml REQUIRED)
 
 file(GLOB_RECURSE ctl_sources CONFIGURE_DEPENDS ctl/*.cpp ctl/*.h)
 list(REMOVE_ITEM ctl_sources ${PROJECT_SOURCE_DIR}/ctl/main.cpp)
@@ -11,7 +12,7 @@ list(FILTER script_sources INCLUDE REGEX "/ctl/script/")
 list(FILTER ctl_sources EXCLUDE REGEX "/ctl/script/")
 
 add_library(kalco_ctl STATIC ${ctl_sources})
-target_link_libraries(kalco_ctl PUBLIC kalco_work)
+target_link_libraries(kalco_ctl PUBLIC kalco_work pugixml::pugixml)
 add_library(kalco_script STATIC ${script_sources})
 target_link_libraries(kalco_script PUBLIC kalco_ctl kalco_editor)
 foreach(part kalco_ctl kalco_script)

@@ -4,6 +4,8 @@
 #include <array>
 
 #include "ctl/files.h"
+#include "ctl/fods/fods_reader.h"
+#include "ctl/fods/fods_writer.h"
 #include "ctl/table_json.h"
 
 namespace kalco::ctl {
@@ -13,7 +15,8 @@ struct NamedFormat {
     std::string_view name;
     TableFormat format;
 };
-constexpr std::array<NamedFormat, 2> named_formats{{{"csv", TableFormat::csv}, {"json", TableFormat::json}}};
+constexpr std::array<NamedFormat, 3> named_formats{
+    {{"csv", TableFormat::csv}, {"fods", TableFormat::fods}, {"json", TableFormat::json}}};
 
 /// What a file of another kind begins with.
 struct Stranger {
@@ -59,6 +62,7 @@ TableFormat format_of_path(std::string_view path) {
 
 std::string file_of_tables(const Tables& tables, TableFormat format, CsvForm form) {
     switch (format) {
+        case TableFormat::fods: return fods_of_tables(tables);
         case TableFormat::json: return json_of_tables(tables);
         default: return csv_of_table(tables.at(0), form);
     }
@@ -68,8 +72,11 @@ Tables tables_of_file(std::string_view bytes) {
     for (const Stranger& stranger : strangers) {
         if (bytes.starts_with(stranger.beginning)) throw TableError(0, {}, std::string(stranger.what));
     }
-    const auto first = bytes.find_first_not_of(" \t\r\n");
-    if (first != std::string_view::npos && bytes[first] == '{') return tables_of_json(bytes);
+    constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
+    const std::string_view text = bytes.substr(bytes.starts_with(byte_order_mark) ? byte_order_mark.size() : 0);
+    const auto first = text.find_first_not_of(" \t\r\n");
+    if (first != std::string_view::npos && text[first] == '{') return tables_of_json(bytes);
+    if (first != std::string_view::npos && text[first] == '<') return tables_of_fods(std::string(bytes));
     return {table_of_csv(bytes)};
 }
 

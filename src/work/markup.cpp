@@ -1,0 +1,90 @@
+#include "work/markup.h"
+
+namespace kalco {
+namespace {
+
+void add_escaped(std::string& result, std::string_view text) {
+    for (const char character : text) {
+        switch (character) {
+            case '&': result += "&amp;"; break;
+            case '<': result += "&lt;"; break;
+            case '>': result += "&gt;"; break;
+            case '"': result += "&quot;"; break;
+            default: {
+                const auto code = static_cast<unsigned char>(character);
+                const bool control = code < 0x20 && character != '\n' && character != '\t';
+                if (control) {
+                    result += "\uFFFD";
+                } else {
+                    result += character;
+                }
+            }
+        }
+    }
+}
+
+}  // namespace
+
+std::string escaped(std::string_view utf8) {
+    std::string result;
+    result.reserve(utf8.size());
+    add_escaped(result, utf8);
+    return result;
+}
+
+void Markup::finish_tag() {
+    if (in_tag_) result_ += '>';
+    in_tag_ = false;
+}
+
+Markup& Markup::open(std::string_view name) {
+    finish_tag();
+    result_ += '<';
+    result_ += name;
+    open_.push_back(name);
+    in_tag_ = true;
+    return *this;
+}
+
+Markup& Markup::attribute(std::string_view name, std::string_view value) {
+    result_ += ' ';
+    result_ += name;
+    result_ += "=\"";
+    add_escaped(result_, value);
+    result_ += '"';
+    return *this;
+}
+
+Markup& Markup::attribute(std::string_view name, std::int64_t value) {
+    return attribute(name, std::string_view(std::to_string(value)));
+}
+
+Markup& Markup::text(std::string_view text) {
+    finish_tag();
+    add_escaped(result_, text);
+    return *this;
+}
+
+Markup& Markup::raw(std::string_view markup) {
+    finish_tag();
+    result_ += markup;
+    return *this;
+}
+
+Markup& Markup::close() {
+    finish_tag();
+    result_ += "</";
+    result_ += open_.back();
+    result_ += '>';
+    open_.pop_back();
+    return *this;
+}
+
+Markup& Markup::end() {
+    result_ += "/>";
+    open_.pop_back();
+    in_tag_ = false;
+    return *this;
+}
+
+}  // namespace kalco
