@@ -13,3 +13,4 @@ function(embed folder function)
 endfunction()
 
 embed(assets/portrait portrait_parts)
+embed(assets/report report_files)

@@ -17,6 +17,7 @@
 #include "ctl/interruption.h"
 #include "ctl/patch_command.h"
 #include "ctl/repair_command.h"
+#include "ctl/report_command.h"
 #include "ctl/script/script_options.h"
 #include "ctl/script/script_runner.h"
 #include "disc/image/process.h"
@@ -41,6 +42,7 @@ public:
         add(ctl::add_import_command(app, import_), [this] { return ctl::run_import(import_); });
         add(ctl::add_diff_command(app, diff_), [this] { return ctl::run_diff(diff_); });
         add(ctl::add_find_command(app, find_), [this] { return ctl::run_find(find_); });
+        add(ctl::add_report_command(app, report_), [this] { return ctl::run_report(report_); });
         add(ctl::add_check_command(app, check_), [this] { return ctl::run_check(check_); });
         add(ctl::add_repair_command(app, repair_), [this] { return ctl::run_repair(repair_); });
         add(ctl::add_patch_command(app, patch_), [this] { return ctl::run_patch(patch_); });
@@ -80,6 +82,7 @@ private:
     ctl::ImportCommandOptions import_;
     ctl::DiffOptions diff_;
     ctl::FindCommandOptions find_;
+    ctl::ReportOptions report_;
     ctl::CheckOptions check_;
     ctl::RepairOptions repair_;
     ctl::PatchOptions patch_;

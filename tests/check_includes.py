@@ -25,6 +25,7 @@ ALLOWED = {
     "disc": DISC,
     "work/check": DISC,
     "work/sheets": DISC,
+    "work/report": DISC | {"work", "work/sheets"},
     "work": DISC | {"work/check", "work/sheets"},
     "editor/window": DISC,
     "editor/teams": WINDOW,

@@ -14,4 +14,7 @@ struct EmbeddedFile {
 /// The parts of the portrait, by name: SVG, 160 by 160, in the colours of the palettes' tokens.
 std::span<const EmbeddedFile> portrait_parts();
 
+/// "style" (CSS) and "script" of the report page.
+std::span<const EmbeddedFile> report_files();
+
 }  // namespace kalco
