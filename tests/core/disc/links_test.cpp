@@ -73,6 +73,7 @@ TEST_F(LinksOfAnImage, ComeBackAsTheyWereWrittenAndTouchNothingElse) {
         test::put_user_data(expected, printed_link_position(club.value()), bytes);
         write_links(image_, club, links);
         EXPECT_EQ(read_links(image_, club), links) << club.value();
+        image_.commit();
         EXPECT_TRUE(test::same_image(disc_.bytes, expected)) << club.value();
     }
 }
@@ -80,10 +81,12 @@ TEST_F(LinksOfAnImage, ComeBackAsTheyWereWrittenAndTouchNothingElse) {
 TEST_F(LinksOfAnImage, AreWrittenFromDigitsAsManyAsThereAre) {
     const std::string before = disc_.bytes;
     write_link_table(image_, Club(6), "");
+    image_.commit();
     EXPECT_TRUE(test::same_image(disc_.bytes, before));
     std::string expected = before;
     test::put_user_data(expected, 2013005, "\x0A\x16\x25\x17");
     write_link_table(image_, Club(6), "0A162517");
+    image_.commit();
     EXPECT_TRUE(test::same_image(disc_.bytes, expected));
 }
 

@@ -165,6 +165,7 @@ TEST_F(PlayersOfAnImage, ComeBackAsTheyWereWrittenAndTouchNothingElse) {
         put(expected, player_name_field(place), test::padded_name(name));
         put(expected, player_record_field(place), record);
         EXPECT_EQ(read_player_name(image_, place), name);
+        image_.commit();
         EXPECT_EQ(bytes_of(disc_.bytes, player_record_field(place)), record);
         const int cost = static_cast<int>(random() % 256);
         write_cost(image_, place, cost);
@@ -173,6 +174,7 @@ TEST_F(PlayersOfAnImage, ComeBackAsTheyWereWrittenAndTouchNothingElse) {
             EXPECT_EQ(read_cost(image_, place), cost);
         }
     }
+    image_.commit();
     EXPECT_TRUE(test::same_image(disc_.bytes, expected));
 }
 
@@ -180,8 +182,10 @@ TEST_F(PlayersOfAnImage, TakeAShorterRecordAsItIs) {
     std::string expected = disc_.bytes;
     put(expected, Piece{player_record_field(PoolRow(7)).position(), 3}, "\xAB\xCD\xEF");
     write_player_record(image_, PoolRow(7), "AB cdEF");
+    image_.commit();
     EXPECT_TRUE(test::same_image(disc_.bytes, expected));
     write_player_record(image_, PoolRow(7), "");
+    image_.commit();
     EXPECT_TRUE(test::same_image(disc_.bytes, expected));
 }
 

@@ -40,6 +40,7 @@ TEST_F(RandomDisc, GivesBackEveryRow) {
         write_bars(image, row, pack_bars(read_bars(image, row)));
     }
     EXPECT_EQ(bars, 86);
+    image.commit();
     EXPECT_TRUE(test::same_image(disc.bytes, before));
 }
 
@@ -68,6 +69,7 @@ TEST_F(RandomDisc, HoldsWhatIsWrittenAndNothingElseChanges) {
             write_bars(image, row, pack_bars(unpack_bars(bars)));
             lay(bars_field(row), bars);
         }
+        image.commit();
         EXPECT_TRUE(test::same_image(disc.bytes, expected)) << row.value();
     }
 }

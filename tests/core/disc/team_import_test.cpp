@@ -70,6 +70,7 @@ TEST_F(TeamImport, WritesEveryRosterAndNothingElse) {
                 put(expected, imported_record_field({team, i}), records_[static_cast<std::size_t>(i)]);
             }
             write_imported_team(image_, team, players());
+            image_.commit();
             EXPECT_TRUE(test::same_image(disc_.bytes, expected)) << team.value() << ", " << count;
         }
     }
@@ -85,6 +86,7 @@ TEST_F(TeamImport, ClearsMissingNamesAndKeepsMissingRecords) {
     for (int i = 0; i < 2; ++i)
         put(expected, roster_record_field({Team(40), i}), records_[static_cast<std::size_t>(i)]);
     write_imported_team(image_, Team(40), players());
+    image_.commit();
     EXPECT_TRUE(test::same_image(disc_.bytes, expected));
 }
 
@@ -96,6 +98,7 @@ TEST_F(TeamImport, WritesTheDefaultTeamOverItsRowsOfThePool) {
         put(expected, pool_record_field(DefaultSlots[i]), records_[i]);
     }
     write_imported_default_team(image_, players());
+    image_.commit();
     EXPECT_TRUE(test::same_image(disc_.bytes, expected));
 }
 
@@ -108,6 +111,7 @@ TEST_F(TeamImport, WritesAnyRowsOfThePool) {
         put(expected, pool_record_field(rows[i]), records_[i]);
     }
     write_imported_pool_rows(image_, rows, players());
+    image_.commit();
     EXPECT_TRUE(test::same_image(disc_.bytes, expected));
 }
 
@@ -118,6 +122,7 @@ TEST_F(TeamImport, TrimsEveryNameOfThePoolButTheSplitOne) {
     put(expected, pool_name_field(rows[0]), test::padded_name("Ab C"));
     put(expected, pool_name_field(rows[1]), test::padded_name(" Ab C   "));
     write_imported_pool_rows(image_, rows, players());
+    image_.commit();
     EXPECT_TRUE(test::same_image(disc_.bytes, expected));
 }
 

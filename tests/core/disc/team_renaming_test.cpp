@@ -68,6 +68,7 @@ TEST_F(TeamRenaming, ReachesEveryPlaceOfEveryTeamAndNothingElse) {
                 test::put(expected, last, test::bytes_at(disc_.bytes, last, 1));
             }
             rename_team(image_, encoder_, team, names, std::string(letters, 'x'));
+            image_.commit();
             EXPECT_TRUE(test::same_image(disc_.bytes, expected)) << team.value() << ", " << length;
             EXPECT_EQ(read_full_width_name(image_, team).substr(0, full_width.size()), full_width) << team.value();
         }
@@ -85,6 +86,7 @@ TEST_F(TeamRenaming, ReachesEveryPlaceOfEveryClubAndNothingElse) {
         const std::string expected =
             renamed(disc_.bytes, team, {short_name, full_width.substr(0, letters), table_name});
         rename_club(image_, encoder_, club, {short_name, full_width, table_name}, std::nullopt);
+        image_.commit();
         EXPECT_TRUE(test::same_image(disc_.bytes, expected)) << club.value();
         EXPECT_EQ(trim(read_full_width_name(image_, team)), full_width.substr(0, letters)) << club.value();
         EXPECT_EQ(read_table_name(image_, team), upper(left(table_name, first_length))) << club.value();

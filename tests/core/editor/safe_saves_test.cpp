@@ -40,6 +40,7 @@ struct Outcome {
     bool killed = false;
     int error = 0;
     int calls = 0;
+    std::vector<std::string> log;  ///< The system's calls of the save itself.
 };
 
 /// Starts the editor on a full image, prepares the save and makes it, with a fault at one of its calls.
@@ -58,7 +59,8 @@ Outcome run(FakeFiles& files, const EverySave& save, int call = 0, CallFault fau
     } catch (const test::Killed&) {
         outcome.killed = true;
     }
-    outcome.calls = static_cast<int>(files.log().size());
+    outcome.log = files.log();
+    outcome.calls = static_cast<int>(outcome.log.size());
     outcome.told_saved = desk.told_saved();
     if (!outcome.killed) {
         files.plan(0);
@@ -82,7 +84,7 @@ protected:
     EverySaveOf() {
         FakeFiles files;
         whole = run(files, save);
-        log = files.log();
+        log = whole.log;
     }
     /// Reads behind the save itself are left out but for a few: the tab shows again what the image holds.
     bool is_worth_a_fault(int call) const {

@@ -15,7 +15,7 @@ namespace kalco {
 namespace {
 
 using test::FakeFiles;
-using test::Fault;
+using test::CallFault;
 using test::image_name;
 using test::journal_name;
 
@@ -151,7 +151,7 @@ protected:
     enum class Ended { told_saved, error, killed };
 
     /// Everything that a repair does, from the opening on, with a fault at one of its calls.
-    Ended run(int call, Fault fault) {
+    Ended run(int call, CallFault fault) {
         files.plan(call, fault);
         try {
             Edit edit(image_name, false, test::opener_on(files, Failures::Kind::file));
@@ -180,7 +180,7 @@ TEST_F(RepairFaults, AFailureAtAnyCallLeavesTheOldImage) {
     for (int call = 1; call <= calls; ++call) {
         for (const int code : {EIO, ENOSPC}) {
             start_anew();
-            const Ended ended = run(call, {Fault::Kind::fails, code});
+            const Ended ended = run(call, {CallFault::Kind::fails, code});
             // A call whose failure harms nothing: the lock's other kind, say.
             const std::string& expected = ended == Ended::told_saved || call == calls ? after : before;
             EXPECT_NE(ended, Ended::killed);
@@ -194,7 +194,7 @@ TEST_F(RepairFaults, AKillAtAnyCallLeavesTheOldOrTheNewImage) {
     int old_ones = 0;
     int new_ones = 0;
     for (int call = 1; call <= calls; ++call) {
-        for (const auto kind : {Fault::Kind::killed_before, Fault::Kind::killed_after}) {
+        for (const auto kind : {CallFault::Kind::killed_before, CallFault::Kind::killed_after}) {
             for (const bool machine_stops : {false, true}) {
                 start_anew();
                 EXPECT_EQ(run(call, {kind, 0}), Ended::killed);

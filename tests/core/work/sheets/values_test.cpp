@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include <random>
 
 #include "disc/codec/latin1.h"
@@ -277,7 +279,7 @@ TEST(Values, DifferFromWhatTheEditorShowsInRareRecordsOnly) {
     };
     const auto shown = [&] { return decode_player(words_of_record(disc.read(player_record_field(place_of_row(0))))); };
 
-    auto cell_of = stored((8U << 20) | (4U << 26) | (1U << 3) | 2, 0, 0);
+    std::function<std::string(const char*)> cell_of = stored((8U << 20) | (4U << 26) | (1U << 3) | 2, 0, 0);
     EXPECT_EQ(cell_of("role"), "Terzino");
     EXPECT_NE(shown().role, "Terzino");
     cell_of = stored((3U << 20) | (4U << 26) | (1U << 13) | 2, 0, 0);
