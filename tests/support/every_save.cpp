@@ -192,7 +192,7 @@ const std::vector<EverySave>& every_save() {
         bars_file(Answer::no, "bars alone"),
         bars_file(Answer::cancel, "a formation alone"),
         numbers(3),
-        numbers(70),
+        numbers(40),
         numbers_import(12, "numbers", rising_numbers(10)),
         stopping(numbers_import(12, "numbers above 32", rising_numbers(22))),
         stopping(numbers_import(12, "too few numbers", rising_numbers(8, 12))),

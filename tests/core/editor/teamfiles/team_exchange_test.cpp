@@ -93,11 +93,11 @@ TEST(TeamExport, FailsBelowTwentyThreePlayersBehindTheOpening) {
     EXPECT_TRUE(run.told().empty());
 }
 
-TEST(TeamExport, EndsTheRunOnAFullDisk) {
+TEST(TeamExport, EndsTheRunAtADeviceInTheFilesPlace) {
     EditorRun run;
     run.choose_team(10);
     std::filesystem::create_symlink("/dev/full", run.home.path("Export/Italy.DAT"));
-    EXPECT_EQ(test::error_of([&] { user::click(run.form, run.form.cmdExp); }), error::disk_full);
+    EXPECT_EQ(test::error_of([&] { user::click(run.form, run.form.cmdExp); }), error::path_access);
     EXPECT_TRUE(run.told().empty());
     EXPECT_TRUE(same_image(run.disc.bytes, test::filled_image()));
 }

@@ -348,12 +348,12 @@ TEST_F(Transfers, TellWhatPreventsASave) {
     EXPECT_TRUE(run.home.has("Transfer/Due.DAT"));
 }
 
-TEST_F(Transfers, TellAFullDisk) {
+TEST_F(Transfers, TellADeviceInTheFilesPlace) {
     open_both();
     choose(form.ListVende, 1);
     std::filesystem::create_symlink("/dev/full", run.home.path("Transfer/UNGHERIA.DAT"));
     run.click(form.cmdSave2);
-    EXPECT_EQ(run.told(), Texts{"Disco pieno"});
+    EXPECT_EQ(run.told(), Texts{"Errore di accesso al percorso/file"});
 }
 
 TEST_F(Transfers, KeepTheListsWhenTheTabIsLeft) {
