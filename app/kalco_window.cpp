@@ -1,27 +1,32 @@
 #include "app/kalco_window.h"
 
+#include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QFileInfo>
-#include <QHBoxLayout>
-#include <QLabel>
+#include <QMenuBar>
 #include <QMimeData>
-#include <QProgressBar>
-#include <QPushButton>
-#include <QScrollBar>
+#include <QScreen>
+#include <QScrollArea>
+#include <QShortcut>
 #include <QTabWidget>
 #include <QVBoxLayout>
-#include <cstdlib>
 
-#include "app/player_summary.h"
-#include "app/text.h"
-#include "app/unsaved_marks.h"
-#include "app/widgets/number_board.h"
-#include "app/widgets/pitch_view.h"
-#include "app/widgets/portrait_view.h"
-#include "app/widgets/record_view.h"
-#include "app/widgets/rows_view.h"
-#include "disc/formation_facts.h"
+#include "app/done.h"
+#include "app/drafts/drafts.h"
+#include "app/help/manual.h"
+#include "app/image_bar.h"
+#include "app/pending.h"
+#include "app/readable.h"
+#include "app/status_line.h"
+#include "app/tabs/formations_tab.h"
+#include "app/tabs/kickers_tab.h"
+#include "app/tabs/league_tab.h"
+#include "app/tabs/numbers_tab.h"
+#include "app/tabs/players_tab.h"
+#include "app/tabs/transfers_tab.h"
+#include "app/widgets/notice.h"
 #include "editor/window/user.h"
 #include "ui_tab0.h"
 #include "ui_tab1.h"
@@ -33,45 +38,50 @@
 namespace kalco::app {
 namespace {
 
+/// A page scrolls where the screen is smaller than it.
 template <typename Form>
 void add_page(QTabWidget& tabs) {
     auto* const page = new QWidget;
     Form form;
     form.setupUi(page);
-    tabs.addTab(page, QString());
+    auto* const area = new QScrollArea;
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidgetResizable(true);
+    area->setWidget(page);
+    page->setAutoFillBackground(false);
+    area->viewport()->setAutoFillBackground(false);
+    tabs.addTab(area, QString());
 }
 
-/// Steps of the arrow buttons that bring a marker nearest to a wished place; each one is a press of a button.
-void drag_marker(frmKalco& form, const PitchMarker& marker, int left, int top) {
-    const auto step_towards = [&form](CommandButton& back, CommandButton& forth, int distance, int step) {
-        if (std::abs(distance) * 2 <= step) return false;
-        return user::click(form, distance < 0 ? back : forth) == user::Outcome::done;
-    };
-    for (int before = marker.left(); step_towards(form.cmdLeft, form.cmdRight, left - marker.left(), arrow_step_x);
-         before = marker.left()) {
-        if (marker.left() == before) break;
-    }
-    for (int before = marker.top(); step_towards(form.cmdUp, form.cmdDown, top - marker.top(), arrow_step_y);
-         before = marker.top()) {
-        if (marker.top() == before) break;
-    }
-}
-
-QString local_file(const QMimeData& data) {
+/// The file of a drop that is an image by its name; empty for anything else.
+QString dropped_image(const QMimeData& data) {
     const QList<QUrl> urls = data.urls();
-    return urls.size() == 1 && urls[0].isLocalFile() ? urls[0].toLocalFile() : QString();
+    if (urls.size() != 1 || !urls[0].isLocalFile()) return {};
+    const QString path = urls[0].toLocalFile();
+    const QString suffix = QFileInfo(path).suffix().toLower();
+    return suffix == u"bin" || suffix == u"img" ? path : QString();
+}
+
+/// What the window opens with, on whatever screen.
+QSize first_size(const QScreen& screen) {
+    constexpr QSize wished(1120, 780);
+    constexpr QSize frame(16, 48);  // What a window manager may draw around it.
+    return wished.boundedTo(screen.availableSize() - frame);
 }
 
 }  // namespace
 
 KalcoWindow::KalcoWindow(frmKalco& form) : form_(form) {
     build();
+    build_menu();
     binder_ = std::make_unique<Binder>(form_, *this);
-    unsaved_ = std::make_unique<UnsavedMarks>(form_, *this);
-    connect_pitch();
-    connect_board();
-    connect_lists();
+    drafts_ = std::make_unique<Drafts>(form_);
+    done_ = std::make_unique<DoneWatch>(form_, drafts_->listeners());
+    add_tabs();
+    connect_keys();
     connect(binder_.get(), &Binder::synced, this, &KalcoWindow::refresh);
+    connect(image_bar_, &ImageBar::reopen_wanted, this, &KalcoWindow::image_wanted);
     refresh();
 }
 
@@ -80,86 +90,82 @@ KalcoWindow::~KalcoWindow() = default;
 void KalcoWindow::build() {
     auto* const middle = new QWidget;
     auto* const column = new QVBoxLayout(middle);
-    auto* const header = new QHBoxLayout;
-    auto* const open = new QPushButton;
-    open->setObjectName(QStringLiteral("cmdOpen"));
-    open->setToolTip(QStringLiteral("Passa a un'altra immagine; si può anche trascinarla sulla finestra"));
-    path_ = new QLabel;
-    path_->setObjectName(QStringLiteral("viewPath"));
-    path_->setTextFormat(Qt::PlainText);
-    path_->setForegroundRole(QPalette::PlaceholderText);
-    path_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    header->addWidget(open);
-    header->addWidget(path_, 1);
-    column->addLayout(header);
+    image_bar_ = new ImageBar;
+    column->addWidget(image_bar_);
 
-    auto* const tabs = new QTabWidget;
-    tabs->setObjectName(QStringLiteral("SSTab1"));
-    add_page<Ui::tab0>(*tabs);
-    add_page<Ui::tab1>(*tabs);
-    add_page<Ui::tab2>(*tabs);
-    add_page<Ui::tab3>(*tabs);
-    add_page<Ui::tab4>(*tabs);
-    add_page<Ui::tab5>(*tabs);
-    column->addWidget(tabs, 1);
+    pages_ = new QTabWidget;
+    pages_->setObjectName(QStringLiteral("SSTab1"));
+    add_page<Ui::tab0>(*pages_);
+    add_page<Ui::tab1>(*pages_);
+    add_page<Ui::tab2>(*pages_);
+    add_page<Ui::tab3>(*pages_);
+    add_page<Ui::tab4>(*pages_);
+    add_page<Ui::tab5>(*pages_);
+    column->addWidget(pages_, 1);
 
-    pending_ = new QLabel;
+    pending_ = new Notice;
     pending_->setObjectName(QStringLiteral("viewPending"));
-    pending_->setTextFormat(Qt::PlainText);
-    pending_->setMinimumHeight(pending_->fontMetrics().height());
     column->addWidget(pending_);
 
     setCentralWidget(middle);
+    status_ = new StatusLine;
+    setStatusBar(status_);
     setAcceptDrops(true);
-    resize(1100, 720);
+    resize(first_size(*screen()));
 }
 
-void KalcoWindow::connect_pitch() {
-    auto* const pitch = findChild<PitchView*>(QStringLiteral("viewPitch"));
-    for (int k = first_marker; k <= last_marker; ++k) {
-        PitchMarker& marker = form_.lblGioc(k);
-        auto* const view = qobject_cast<MarkerView*>(binder_->widget_of(marker));
-        connect(view, &MarkerView::pressed, this, [this, &marker, pitch] {
-            pitch->setFocus(Qt::MouseFocusReason);
-            binder_->act([this, &marker] { user::click(form_, marker); }, Binder::Focus::stay);
-        });
-        connect(view, &MarkerView::dragged, this, [this, &marker](int left, int top) {
-            binder_->act([&] { drag_marker(form_, marker, left, top); }, Binder::Focus::stay);
-        });
+void KalcoWindow::build_menu() {
+    QMenu* const help = menuBar()->addMenu(QStringLiteral("&Aiuto"));
+    QAction* const manual = help->addAction(QStringLiteral("&Manuale"));
+    manual->setShortcut(QKeySequence(Qt::Key_F1));
+    connect(manual, &QAction::triggered, this, &KalcoWindow::show_manual);
+    QAction* const about = help->addAction(QStringLiteral("&Informazioni su Kalco"));
+    connect(about, &QAction::triggered, this, [this] { show_about(this); });
+}
+
+void KalcoWindow::add_tabs() {
+    const auto page = [this](int tab) -> QWidget& { return *pages_->widget(tab); };
+    tabs_.push_back(std::make_unique<PlayersTab>(*binder_, page(tab::players), *drafts_));
+    tabs_.push_back(std::make_unique<LeagueTab>(*binder_, page(tab::league)));
+    tabs_.push_back(std::make_unique<KickersTab>(*binder_, page(tab::kickers), *drafts_));
+    tabs_.push_back(std::make_unique<TransfersTab>(*binder_, page(tab::transfers), *drafts_));
+    tabs_.push_back(std::make_unique<FormationsTab>(*binder_, page(tab::formations), *drafts_));
+    tabs_.push_back(std::make_unique<NumbersTab>(*binder_, page(tab::numbers), *drafts_));
+}
+
+void KalcoWindow::connect_keys() {
+    const auto on_key = [this](const QString& key, auto step) {
+        connect(new QShortcut(QKeySequence(key), this), &QShortcut::activated, this, step);
+    };
+    on_key(QStringLiteral("Ctrl+O"), [this] { binder_->act([this] { user::click(form_, form_.cmdOpen); }); });
+    on_key(QStringLiteral("Ctrl+S"), [this] { save_shown_tab(); });
+    for (int tab = tab::players; tab <= tab::numbers; ++tab) {
+        on_key(QStringLiteral("Ctrl+%1").arg(tab + 1),
+               [this, tab] { binder_->act([this, tab] { user::select_tab(form_, tab); }); });
     }
-    connect(pitch, &PitchView::stepped, this, [this](int right, int down) {
-        CommandButton& across = right < 0 ? form_.cmdLeft : form_.cmdRight;
-        CommandButton& along = down < 0 ? form_.cmdUp : form_.cmdDown;
-        binder_->act([&] { user::click(form_, right != 0 ? across : along); }, Binder::Focus::stay);
-    });
-    connect(pitch, &PitchView::turned, this, [this](int step) {
-        constexpr int markers = last_marker - first_marker + 1;
-        int next = step > 0 ? first_marker : last_marker;
-        for (int k = first_marker; k <= last_marker; ++k) {
-            if (form_.lblGioc(k).selected()) next = first_marker + (k - first_marker + step + markers) % markers;
-        }
-        binder_->act([&] { user::click(form_, form_.lblGioc(next)); }, Binder::Focus::stay);
+    // A field that gets the keyboard outside the shown part of its page is scrolled to.
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+        auto* const area = qobject_cast<QScrollArea*>(pages_->currentWidget());
+        if (now != nullptr && area != nullptr && area->isAncestorOf(now)) area->ensureWidgetVisible(now, 20, 20);
     });
 }
 
-void KalcoWindow::connect_board() {
-    for (int number = form_.lblNum.first(); number <= form_.lblNum.last(); ++number) {
-        auto* const cell = qobject_cast<NumberCellView*>(binder_->widget_of(form_.lblNum(number)));
-        connect(cell, &NumberCellView::pressed, this, [this](int pressed) {
-            if (form_.lblNum(pressed).in_use() || form_.ListName.row() < 0) return;
-            const std::string digits = (pressed < 10 ? "0" : "") + std::to_string(pressed);
-            binder_->act([&] { user::type(form_, form_.txtNumMod, digits); });
-        });
+void KalcoWindow::save_shown_tab() {
+    const auto buttons = tabs_.at(static_cast<std::size_t>(form_.SSTab1.tab()))->saves();
+    bool pressed = false;
+    binder_->act([&] {
+        for (CommandButton* button : buttons) pressed |= user::click(form_, *button) == user::Outcome::done;
+    });
+    if (!pressed && !binder_->over()) status_->tell(QStringLiteral("Qui non c'è niente da salvare"));
+}
+
+void KalcoWindow::show_manual() {
+    if (auto* const open = findChild<Manual*>()) {
+        open->raise();
+        open->activateWindow();
+        return;
     }
-}
-
-void KalcoWindow::connect_lists() {
-    const auto list = [this](const ListBox& control) { return qobject_cast<RowsView*>(binder_->widget_of(control)); };
-    QScrollBar* const names = list(form_.ListName)->verticalScrollBar();
-    QScrollBar* const numbers = list(form_.ListNum)->verticalScrollBar();
-    connect(names, &QScrollBar::valueChanged, numbers, &QScrollBar::setValue);
-    connect(numbers, &QScrollBar::valueChanged, names, &QScrollBar::setValue);
-    list(form_.listNC)->note = pool_notes(form_);
+    (new Manual(this))->show();
 }
 
 void KalcoWindow::start() {
@@ -167,46 +173,55 @@ void KalcoWindow::start() {
     if (!binder_->over()) show();
 }
 
+void KalcoWindow::hide_pending() {
+    pending_->show_notice({});
+}
+
 void KalcoWindow::refresh() {
-    refresh_header();
-    refresh_players_tab();
-    refresh_transfers_tab();
-    findChild<QProgressBar*>(QStringLiteral("viewPicks"))->setValue(form_.listAppNameNC.count());
-    const int marked = qt_text(form_.txtNumMod.text()).toInt();
-    for (int number = form_.lblNum.first(); number <= form_.lblNum.last(); ++number) {
-        qobject_cast<NumberCellView*>(binder_->widget_of(form_.lblNum(number)))->show_marked(number == marked);
+    if (binder_->over()) return;
+    image_bar_->show_image(form_);
+    const QString& image = image_bar_->title();
+    setWindowTitle(image.isEmpty() ? QStringLiteral("Kalco") : image + QStringLiteral(" – Kalco"));
+    show_whether_open();
+    if (!binder_->acting()) {
+        tell_what_happened();
+        pending_->show_notice(pending_text(form_));
     }
-    for (const ListBox* list : {&form_.listNC}) binder_->widget_of(*list)->update();
-    unsaved_->refresh();
+    for (const auto& tab : tabs_) tab->refresh();
 }
 
-void KalcoWindow::refresh_header() {
-    const QString path = QString::fromStdString(form_.ImagePath);
-    setWindowTitle(path.isEmpty() ? QStringLiteral("Kalco") : QFileInfo(path).fileName() + QStringLiteral(" – Kalco"));
-    path_->setText(path);
-    path_->setToolTip(path);
-    const bool pending = form_.ImportPending != 0 || form_.ImportPendingML != 0;
-    pending_->setText(pending ? QStringLiteral("● Importazione in sospeso: niente arriva all'immagine finché non si "
-                                               "preme «Salva», che scrive tutta la squadra.")
-                              : QString());
+void KalcoWindow::tell_what_happened() {
+    QStringList told = done_->take();
+    std::vector<std::function<void()>> steps;
+    for (const Draft& draft : drafts_->look()) {
+        told << draft.told();
+        if (draft.make_again) steps.push_back(draft.make_again);
+    }
+    if (told.isEmpty()) return;
+    const QString text = told.join(QStringLiteral(" · "));
+    if (steps.empty()) return status_->tell(text);
+    status_->tell(text, [this, steps] {
+        binder_->act([&steps] {
+            for (const auto& step : steps) step();
+        });
+    });
 }
 
-void KalcoWindow::refresh_players_tab() {
-    Looks looks;
-    looks.skin = form_.cboPelle.row();
-    looks.hair_style = form_.cboCapelli.text();
-    looks.hair_colour = form_.cboColCap.row();
-    looks.beard_style = form_.cboStlBar.text();
-    looks.beard_colour = form_.cboColBar.row();
-    findChild<PortraitView*>(QStringLiteral("viewPortrait"))->show_looks(looks);
-}
-
-void KalcoWindow::refresh_transfers_tab() {
-    const auto show = [this](const char* view, const ListBox& names, const ListBox& lines) {
-        findChild<RecordView*>(QString::fromLatin1(view))->show_player(summary_of(names, lines));
-    };
-    show("viewRecord1", form_.ListVende, form_.listTras1);
-    show("viewRecord2", form_.ListCompra, form_.listTras2);
+void KalcoWindow::show_whether_open() {
+    const bool open = form_.image.is_open();
+    const bool before_start = !open && form_.ImagePath.empty() && !isVisible();
+    if (open == shown_open_ || before_start) return;
+    shown_open_ = open;
+    QPalette colours = QApplication::palette();
+    for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+        for (const auto ink : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::Base}) {
+            colours.setColor(group, ink, colours.color(QPalette::Disabled, ink));
+        }
+    }
+    for (int tab = tab::players; tab <= tab::numbers; ++tab) {
+        // The transfers work on files alone.
+        if (tab != tab::transfers) pages_->widget(tab)->setPalette(open ? QPalette() : colours);
+    }
 }
 
 void KalcoWindow::closeEvent(QCloseEvent* event) {
@@ -215,14 +230,18 @@ void KalcoWindow::closeEvent(QCloseEvent* event) {
 }
 
 void KalcoWindow::dragEnterEvent(QDragEnterEvent* event) {
-    if (!local_file(*event->mimeData()).isEmpty()) event->acceptProposedAction();
+    if (dropped_image(*event->mimeData()).isEmpty()) {
+        event->ignore();
+    } else {
+        event->acceptProposedAction();
+    }
 }
 
 void KalcoWindow::dropEvent(QDropEvent* event) {
-    const QString path = local_file(*event->mimeData());
+    const QString path = dropped_image(*event->mimeData());
     if (path.isEmpty()) return;
     event->acceptProposedAction();
-    Q_EMIT image_dropped(path);
+    Q_EMIT image_wanted(path);
 }
 
 }  // namespace kalco::app

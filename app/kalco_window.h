@@ -2,16 +2,22 @@
 
 #include <QMainWindow>
 #include <memory>
+#include <vector>
 
 #include "app/binder/binder.h"
 
-class QLabel;
+class QTabWidget;
 
 namespace kalco::app {
 
-class UnsavedMarks;
+class DoneWatch;
+class Drafts;
+class ImageBar;
+class Notice;
+class StatusLine;
+class Tab;
 
-/// The window: the six tabs under a row with the image's button, and a line that tells what is pending.
+/// The window: the six tabs below the image's row, a notice of what is pending, and the line that tells what was done.
 class KalcoWindow : public QMainWindow {
     Q_OBJECT
 
@@ -23,10 +29,12 @@ public:
 
     /// Runs start-up, with its file dialog; shows the window unless that ended the run.
     void start();
+    /// While a file dialog asks, an import is not pending yet, or is being replaced.
+    void hide_pending();
 
 Q_SIGNALS:
-    /// A file was dropped: the next dialog of the image is to take it.
-    void image_dropped(const QString& path);
+    /// The next dialog of the image is to take this file.
+    void image_wanted(const QString& path);
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -35,19 +43,25 @@ protected:
 
 private:
     void build();
-    void connect_pitch();
-    void connect_board();
-    void connect_lists();
+    void build_menu();
+    void add_tabs();
+    void connect_keys();
+    void save_shown_tab();
+    void show_manual();
     void refresh();
-    void refresh_header();
-    void refresh_players_tab();
-    void refresh_transfers_tab();
+    void tell_what_happened();
+    void show_whether_open();
 
     frmKalco& form_;
-    QLabel* path_ = nullptr;
-    QLabel* pending_ = nullptr;
+    ImageBar* image_bar_ = nullptr;
+    QTabWidget* pages_ = nullptr;
+    Notice* pending_ = nullptr;
+    StatusLine* status_ = nullptr;
     std::unique_ptr<Binder> binder_;
-    std::unique_ptr<UnsavedMarks> unsaved_;
+    std::unique_ptr<Drafts> drafts_;
+    std::unique_ptr<DoneWatch> done_;
+    std::vector<std::unique_ptr<Tab>> tabs_;  ///< In the order of the pages.
+    bool shown_open_ = true;
 };
 
 }  // namespace kalco::app

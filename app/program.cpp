@@ -6,11 +6,26 @@
 #include <QTranslator>
 #include <utility>
 
+#include "app/doing.h"
 #include "app/style.h"
 #include "disc/runtime_error.h"
 #include "editor/window/user.h"
 
 namespace kalco::app {
+namespace {
+
+/// The words of Qt's own menus and dialogs: those that came with the program, or else the system's.
+void install_translation() {
+    const QString own = QCoreApplication::applicationDirPath() + QStringLiteral("/../share/kalco/translations");
+    auto* const words = new QTranslator(qApp);
+    for (const QString& directory : {own, QLibraryInfo::path(QLibraryInfo::TranslationsPath)}) {
+        if (!words->load(QStringLiteral("qtbase_it"), directory)) continue;
+        QCoreApplication::installTranslator(words);
+        return;
+    }
+}
+
+}  // namespace
 
 void prepare_application() {
     QApplication::setApplicationName(QStringLiteral("kalco"));
@@ -18,11 +33,7 @@ void prepare_application() {
     QApplication::setDesktopFileName(QStringLiteral("org.kalco.Kalco"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icon/kalco.svg")));
     QApplication::setStyle(new Style);
-    // The words of Qt's own menus and dialogs, where the system has them.
-    auto* const words = new QTranslator(qApp);
-    if (words->load(QStringLiteral("qtbase_it"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-        QCoreApplication::installTranslator(words);
-    }
+    install_translation();
     // Closing the first dialog must not end the program; the window's end does.
     QApplication::setQuitOnLastWindowClosed(false);
 }
@@ -31,12 +42,15 @@ Program::Program(StorageOpener opener) : editor_(platform_, std::move(opener)), 
     Binder& binder = window_.binder();
     platform_.set_window(&window_);
     platform_.before_box = [&binder] { binder.sync(); };
-    QObject::connect(&window_, &KalcoWindow::image_dropped, &window_, [this, &binder](const QString& path) {
-        platform_.choose_next(path);
-        binder.act([this] { user::click(editor_.form, editor_.form.cmdOpen); });
-    });
+    platform_.before_dialog = [this] { window_.hide_pending(); };
+    QObject::connect(&window_, &KalcoWindow::image_wanted, &window_, [this](const QString& path) { open_image(path); });
     binder.on_failure = [this](const std::exception_ptr& failure) { fail(failure); };
     binder.on_ended = [this] { end(editor_.form.ended == Ending::denied ? exit_failed : exit_done); };
+}
+
+void Program::open_image(const QString& path) {
+    platform_.choose_next(path);
+    window_.binder().act([this] { user::click(editor_.form, editor_.form.cmdOpen); });
 }
 
 int Program::run() {
@@ -65,7 +79,7 @@ void Program::fail(const std::exception_ptr& failure) {
     }
     try {
         const std::string title = "Errore di run-time '" + std::to_string(number) + "':\n";
-        platform_.message(title + std::string(run_time_error_text(number)), Icon::stop, Buttons::ok);
+        platform_.tell_end(title + std::string(run_time_error_text(number)), last_doing(window_.binder()));
     } catch (const std::exception&) {
         // There is no memory for a box either.
     }

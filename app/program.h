@@ -20,6 +20,8 @@ public:
 
     explicit Program(StorageOpener opener = open_file);
 
+    /// The first dialog takes this image without being shown.
+    void open_at_start(const QString& image) { platform_.choose_next(image); }
     /// Starts, and returns the exit status when the window is closed. A cancelled start shows no window.
     int run();
 
@@ -30,6 +32,7 @@ public:
     KalcoWindow& window() { return window_; }
 
 private:
+    void open_image(const QString& path);
     void end(int status);
 
     QtPlatform platform_;

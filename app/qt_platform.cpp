@@ -1,15 +1,16 @@
 #include "app/qt_platform.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QStandardPaths>
 #include <utility>
 
 #include "app/text.h"
+#include "editor/window/side_file.h"
 #include "editor/window/system_directories.h"
 
 namespace kalco::app {
@@ -40,7 +41,7 @@ Answer QtPlatform::message(const std::string& text, Icon icon, Buttons buttons) 
     if (before_box) before_box();
     QMessageBox box(parent());
     box.setIcon(box_icon(icon));
-    box.setWindowTitle(QCoreApplication::applicationName());
+    box.setWindowTitle(QGuiApplication::applicationDisplayName());
     box.setTextFormat(Qt::PlainText);
     box.setText(with_line_feeds(qt_text(text)));
     if (buttons == Buttons::ok) {
@@ -57,9 +58,34 @@ Answer QtPlatform::message(const std::string& text, Icon icon, Buttons buttons) 
     return box.clickedButton() == no ? Answer::no : Answer::cancel;
 }
 
+void QtPlatform::tell_end(const std::string& error, const QString& doing) {
+    if (before_box) before_box();
+    QMessageBox box(parent());
+    box.setIcon(QMessageBox::Critical);
+    box.setWindowTitle(QGuiApplication::applicationDisplayName());
+    box.setTextFormat(Qt::PlainText);
+    box.setText(with_line_feeds(qt_text(error)));
+    box.setInformativeText(QStringLiteral("Durante: %1.\n\nKalco si chiude. Quello che era già scritto "
+                                          "nell'immagine resta.")
+                               .arg(doing));
+    box.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
+    box.exec();
+}
+
+QList<QUrl> QtPlatform::side_bar(const QList<QUrl>& usual) const {
+    QList<QUrl> places = usual;
+    for (const std::string_view name : {directory::export_teams, directory::transfer, directory::formations,
+                                        directory::numbers, directory::kickers}) {
+        const QString path = QString::fromStdString(side_directory(*this, name));
+        if (QFileInfo(path).isDir()) places << QUrl::fromLocalFile(path);
+    }
+    return places;
+}
+
 std::string QtPlatform::open_dialog(const std::string& filter, const std::string& initial_directory) {
     if (before_box) before_box();
     if (const auto choice = std::exchange(next_choice_, std::nullopt)) return choice->toStdString();
+    if (before_dialog) before_dialog();
     QFileDialog dialog(parent());
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setOption(QFileDialog::ReadOnly);
@@ -67,6 +93,7 @@ std::string QtPlatform::open_dialog(const std::string& filter, const std::string
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setDirectory(QString::fromStdString(initial_directory));
     dialog.setNameFilters(name_filters(qt_text(filter)));
+    dialog.setSidebarUrls(side_bar(dialog.sidebarUrls()));
     dialog.setLabelText(QFileDialog::LookIn, QStringLiteral("Cerca in:"));
     dialog.setLabelText(QFileDialog::FileName, QStringLiteral("&Nome file:"));
     dialog.setLabelText(QFileDialog::FileType, QStringLiteral("Tipo di file:"));

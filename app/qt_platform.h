@@ -1,7 +1,9 @@
 #pragma once
 
+#include <QList>
 #include <QPointer>
 #include <QString>
+#include <QUrl>
 #include <functional>
 #include <optional>
 
@@ -21,13 +23,19 @@ public:
 
     /// What boxes stand before; without one they stand alone.
     void set_window(QWidget* window) { window_ = window; }
+    /// Tells that the program ends, and under it what was being done.
+    void tell_end(const std::string& error, const QString& doing);
+
     /// Runs before a box is shown, so that the window behind it is up to date.
     std::function<void()> before_box;
+    /// Runs before a file dialog is shown.
+    std::function<void()> before_dialog;
     /// The next dialog takes this path without being shown: a file was dropped on the window.
     void choose_next(const QString& path) { next_choice_ = path; }
 
 private:
     QWidget* parent() const;
+    QList<QUrl> side_bar(const QList<QUrl>& usual) const;
 
     QPointer<QWidget> window_;
     std::optional<QString> next_choice_;

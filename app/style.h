@@ -4,15 +4,29 @@
 
 namespace kalco::app {
 
-/// Fusion on the system's palette, with room around the captions of buttons.
+/// Fusion on the system's palette, with room around the captions of buttons, popups of a list's height, a bar at the
+/// edge of unsaved fields, and inks that can be read.
 class Style : public QProxyStyle {
     Q_OBJECT
 
 public:
     Style();
 
+    using QProxyStyle::polish;
+    void polish(QPalette& palette) override;
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* answer) const override;
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                            const QWidget* widget) const override;
+
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                            const QWidget* widget) const override;
 };
+
+/// Whether a text field or pick list shows the bar.
+void mark_unsaved(QWidget& field, bool unsaved);
+bool is_marked_unsaved(const QWidget& field);
 
 }  // namespace kalco::app

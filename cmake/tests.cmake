@@ -6,7 +6,9 @@ find_package(GTest)
 set(results ${CMAKE_BINARY_DIR}/results)
 file(MAKE_DIRECTORY ${results})
 set(test_bin ${CMAKE_BINARY_DIR}/tests)
-set(test_env LC_ALL=C.UTF-8 QT_QPA_PLATFORM=offscreen
+# The offscreen platform's own screen is smaller than any that is sold.
+set(screens ${PROJECT_SOURCE_DIR}/tests/app/screens)
+set(test_env LC_ALL=C.UTF-8 QT_QPA_PLATFORM=offscreen:configfile=${screens}/1920x1080.json
     UBSAN_OPTIONS=print_stacktrace=1 LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0)
 
 # core_tests: one program for each folder of tests/core, core_<folder>_tests, so that a change builds what it touches.
@@ -88,16 +90,20 @@ if(NOT TARGET kalco_app)
     return()
 endif()
 
-# Window tests, all on the offscreen platform. The tests that this folder's programs share lie in tests/app/support/.
+# Window tests, all on the offscreen platform. What the programs of this folder share is tests/app/support/.
 find_package(Qt6 REQUIRED COMPONENTS Test)
 file(GLOB app_support_sources CONFIGURE_DEPENDS tests/app/support/*.cpp tests/app/support/*.h)
+add_library(kalco_window_support STATIC ${app_support_sources})
+target_include_directories(kalco_window_support PUBLIC ${PROJECT_SOURCE_DIR}/tests)
+target_link_libraries(kalco_window_support PUBLIC kalco_ctl kalco_script kalco_app Qt6::Test PRIVATE kalco_warnings)
+if(KALCO_PCH)
+    target_precompile_headers(kalco_window_support REUSE_FROM kalco_app)
+endif()
 
 function(add_window_program name)
     add_executable(${name} ${ARGN})
     set_target_properties(${name} PROPERTIES AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY ${test_bin})
-    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
-    target_link_libraries(${name} PRIVATE
-        kalco_ctl kalco_script kalco_app Qt6::Test kalco_warnings)
+    target_link_libraries(${name} PRIVATE kalco_window_support kalco_warnings)
     if(KALCO_PCH)
         target_precompile_headers(${name} REUSE_FROM kalco_app)
     endif()
@@ -105,7 +111,7 @@ endfunction()
 
 foreach(tool window_script window_picture)
     file(GLOB tool_sources CONFIGURE_DEPENDS tests/app/${tool}/*.cpp tests/app/${tool}/*.h)
-    add_window_program(${tool} ${tool_sources} ${app_support_sources})
+    add_window_program(${tool} ${tool_sources})
 endforeach()
 add_stories(stories_window window_script window)
 
@@ -113,10 +119,21 @@ file(GLOB window_tests CONFIGURE_DEPENDS tests/app/test_*.cpp)
 add_custom_target(window_tests)
 foreach(source ${window_tests})
     get_filename_component(name ${source} NAME_WE)
-    add_window_program(${name} ${source} ${app_support_sources})
+    add_window_program(${name} ${source})
     add_test(NAME ${name} COMMAND ${name} -o ${results}/${name}.xml,junitxml -o -,txt)
     set_tests_properties(${name} PROPERTIES LABELS window TIMEOUT 600 ENVIRONMENT "${test_env}")
     add_dependencies(window_tests ${name})
+endforeach()
+target_compile_definitions(test_help PRIVATE
+    KALCO_PROGRAM="$<TARGET_FILE:kalco>" KALCO_SOURCE="${PROJECT_SOURCE_DIR}")
+add_dependencies(test_help kalco)
+
+# test_screens on the small screens that Kalco is to fit, test_layout with everything twice as large.
+foreach(screen 1024x768 1366x768-144dpi 1920x1080-scale2)
+    add_test(NAME test_screens_${screen} COMMAND test_screens
+        -o ${results}/test_screens_${screen}.xml,junitxml -o -,txt)
+    set_tests_properties(test_screens_${screen} PROPERTIES LABELS window TIMEOUT 600
+        ENVIRONMENT "${test_env};QT_QPA_PLATFORM=offscreen:configfile=${screens}/${screen}.json")
 endforeach()
 add_test(NAME test_layout_200_percent COMMAND test_layout no_text_is_cut lists_grow_and_fields_do_not
     -o ${results}/test_layout_200_percent.xml,junitxml -o -,txt)

@@ -91,10 +91,12 @@ void Binder::act(const std::function<void()>& action, Focus focus) {
 
 void Binder::sync() {
     syncing_ = true;
+    QWidget* const focused = QApplication::focusWidget();
     for (const auto& view : views_) {
         if (view->marked()) view->sync();
     }
     sync_tab_stops();
+    if (focused != nullptr && !focused->isEnabled()) settle_focus(*focused);
     syncing_ = false;
     Q_EMIT synced();
 }
@@ -108,6 +110,22 @@ void Binder::sync_focus() {
     const bool was_syncing = std::exchange(syncing_, true);
     widget->setFocus(Qt::OtherFocusReason);
     syncing_ = was_syncing;
+}
+
+/// A widget that was switched off under the keyboard hands it to the next field of its frame: Qt would go on to any
+/// next widget, and the next press of the same key could do what nobody wanted.
+void Binder::settle_focus(QWidget& left) {
+    const Control* const old = control_of(&left);
+    if (old == nullptr || !window_.isAncestorOf(&left)) return;
+    QWidget* on_tab = nullptr;
+    for (QWidget* widget = left.nextInFocusChain(); widget != &left; widget = widget->nextInFocusChain()) {
+        const Control* const control = control_of(widget);
+        if (control == nullptr || control->kind() == Kind::command_button || control->tab() != old->tab()) continue;
+        if (!control->takes_focus() || !widget->isEnabled() || !widget->isVisible()) continue;
+        if (control->frame() == old->frame()) return widget->setFocus(Qt::OtherFocusReason);
+        if (on_tab == nullptr) on_tab = widget;
+    }
+    (on_tab != nullptr ? on_tab : tabs_->tabBar())->setFocus(Qt::OtherFocusReason);
 }
 
 bool Binder::tab_is_moving() const {

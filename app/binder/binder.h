@@ -40,6 +40,8 @@ public:
     void sync();
     /// Marks a view although its control did not change: the widget shows what the user tried.
     void touch(const Control& control);
+    /// Whether an action goes on: a box of it is shown.
+    bool acting() const { return acting_; }
     /// Whether the run has ended, well or not; no action is carried out any more.
     bool over() const { return over_; }
 
@@ -49,6 +51,7 @@ public:
     std::function<void()> on_ended;
 
 Q_SIGNALS:
+    /// The widgets show the model again: an action is over, or shows a box.
     void synced();
 
 protected:
@@ -58,6 +61,7 @@ private:
     void bind(Control& control, QWidget& widget);
     void watch(QObject& object, Control& control);
     void sync_focus();
+    void settle_focus(QWidget& left);
     bool focus_arrived(QObject* watched, Control& control, Qt::FocusReason reason);
     bool key_pressed(Control& control, int key);
     void step_in_group(OptionButton& from, int step);

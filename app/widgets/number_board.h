@@ -4,7 +4,7 @@
 
 namespace kalco::app {
 
-/// A cell of the board of shirt numbers: its number, in one of two plain looks.
+/// A cell of the board of shirt numbers: taken, free, or beyond what the team can have.
 class NumberCellView : public QWidget {
     Q_OBJECT
     Q_PROPERTY(int number READ number WRITE set_number)
@@ -18,6 +18,11 @@ public:
     void show_in_use(bool in_use);
     /// The number of the selected player.
     void show_marked(bool marked);
+    /// Whether a player of the shown team can have it.
+    void show_possible(bool possible);
+    bool possible() const { return possible_; }
+    /// Who has it; empty for nobody.
+    void show_wearer(const QString& wearer);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
@@ -30,9 +35,13 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
 
 private:
+    void tell();
+
     int number_ = 0;
     bool in_use_ = false;
     bool marked_ = false;
+    bool possible_ = true;
+    QString wearer_;
 };
 
 }  // namespace kalco::app

@@ -1,18 +1,64 @@
 #include "app/widgets/pick_combo.h"
 
 #include <QAbstractItemView>
+#include <QKeyEvent>
+#include <QPainter>
 #include <QStyleOptionComboBox>
 #include <QStylePainter>
+#include <QStyledItemDelegate>
 #include <QWheelEvent>
 
+#include "app/pictures.h"
 #include "app/text.h"
 
 namespace kalco::app {
+namespace {
+
+/// A row of the popup: its drawing, its text.
+class PickDelegate : public QStyledItemDelegate {
+public:
+    explicit PickDelegate(PickCombo& combo) : QStyledItemDelegate(&combo), combo_(combo) {}
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        const QSize hint = QStyledItemDelegate::sizeHint(option, index);
+        if (pattern().isEmpty()) return {hint.width(), option.fontMetrics.height() + 5};
+        return {hint.width() + picture_side + gap, picture_side + 4};
+    }
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        if (pattern().isEmpty()) return QStyledItemDelegate::paint(painter, option, index);
+        const QString text = index.data().toString();
+        QStyleOptionViewItem row = option;
+        initStyleOption(&row, index);
+        row.text.clear();
+        const QStyle& style = *combo_.style();
+        style.drawControl(QStyle::CE_ItemViewItem, &row, painter, row.widget);
+        const QRect area = option.rect.adjusted(gap / 2, 2, 0, -2);
+        const QPixmap drawn =
+            picture(QString(pattern()).replace(u'*', text), picture_side, painter->device()->devicePixelRatioF());
+        if (!drawn.isNull()) painter->drawPixmap(area.topLeft(), drawn);
+        const bool selected = option.state.testFlag(QStyle::State_Selected);
+        const auto ink = selected ? QPalette::HighlightedText : QPalette::Text;
+        style.drawItemText(painter, area.adjusted(picture_side + gap, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
+                           option.palette, true, visible_text(text), ink);
+    }
+
+private:
+    static constexpr int picture_side = 28;
+    static constexpr int gap = 8;
+
+    QString pattern() const { return combo_.property("pictures").toString(); }
+
+    PickCombo& combo_;
+};
+
+}  // namespace
 
 PickCombo::PickCombo(QWidget* parent) : QComboBox(parent) {
     setFocusPolicy(Qt::TabFocus);
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     setMaxVisibleItems(20);
+    setItemDelegate(new PickDelegate(*this));
 }
 
 void PickCombo::set_rows(const QStringList& rows) {
@@ -38,12 +84,19 @@ void PickCombo::showPopup() {
     QComboBox::showPopup();
 }
 
-void PickCombo::wheelEvent(QWheelEvent* event) {
-    if (hasFocus()) {
-        QComboBox::wheelEvent(event);
-    } else {
+void PickCombo::keyPressEvent(QKeyEvent* event) {
+    const bool chord = event->modifiers() & (Qt::AltModifier | Qt::ControlModifier | Qt::MetaModifier);
+    const bool opens = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
+    // An access key that nothing has must not search the rows.
+    if (chord && !opens) {
         event->ignore();
+    } else {
+        QComboBox::keyPressEvent(event);
     }
+}
+
+void PickCombo::wheelEvent(QWheelEvent* event) {
+    event->ignore();
 }
 
 QRect PickCombo::field_rect(const QStyleOptionComboBox& option) const {

@@ -8,7 +8,8 @@ class QStylePainter;
 
 namespace kalco::app {
 
-/// A pick list whose field may show a text that is not among its rows. The wheel turns it only while it has the focus.
+/// A pick list whose field may show a text that is not among its rows. The wheel never turns it. The dynamic property
+/// "pictures" names the drawings of its rows, with "*" for the row's text.
 class PickCombo : public QComboBox {
     Q_OBJECT
 
@@ -24,6 +25,7 @@ public:
     void showPopup() override;
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     virtual void paint_field(QStylePainter& painter, QStyleOptionComboBox& option);

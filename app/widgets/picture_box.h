@@ -1,9 +1,6 @@
 #pragma once
 
 #include <QWidget>
-#include <memory>
-
-class QSvgRenderer;
 
 namespace kalco::app {
 
@@ -13,7 +10,6 @@ class PictureBox : public QWidget {
 
 public:
     explicit PictureBox(QWidget* parent = nullptr);
-    ~PictureBox() override;
 
     void show_picture(const QString& name);
     const QString& picture() const { return name_; }
@@ -26,7 +22,6 @@ protected:
 
 private:
     QString name_;
-    std::unique_ptr<QSvgRenderer> drawing_;
 };
 
 }  // namespace kalco::app

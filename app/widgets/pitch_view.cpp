@@ -6,6 +6,7 @@
 #include <QPainterPath>
 
 #include "app/text.h"
+#include "app/widgets/pitch_names.h"
 
 namespace kalco::app {
 namespace {
@@ -92,6 +93,13 @@ void draw_lines(QPainter& painter, const QRectF& field) {
     }
 }
 
+/// The field's lines in the grass.
+QRectF field_of(const QRectF& grass) {
+    const double margin = grass.width() * 0.04;
+    const double strip = std::max(22.0, grass.height() * 0.06);
+    return grass.adjusted(margin, strip, -margin, -strip);
+}
+
 void draw_direction(QPainter& painter, const QRectF& field, double below, const QFont& font) {
     painter.setFont(font);
     painter.setPen(QColor(255, 255, 255, 225));
@@ -162,8 +170,33 @@ void MarkerView::mouseMoveEvent(QMouseEvent* event) {
     Q_EMIT dragged(wished.x(), wished.y());
 }
 
-PitchView::PitchView(QWidget* parent) : QWidget(parent) {
+PitchView::PitchView(QWidget* parent) : QWidget(parent), names_(new PitchNames(this)) {
     setFocusPolicy(Qt::StrongFocus);
+}
+
+void PitchView::show_names(const QStringList& names) {
+    names_->show_names(names);
+    place_names();
+}
+
+void PitchView::place_names() {
+    // The keeper's first, then the markers' in their order: the last part of a marker's name is its number.
+    std::vector<QRect> shirts{keeper().toRect()};
+    const int first = 2;
+    const int last = 11;
+    for (int place = first; place <= last; ++place) {
+        const auto* const marker = findChild<MarkerView*>(QStringLiteral("lblGioc_%1").arg(place));
+        shirts.push_back(marker == nullptr ? QRect() : marker->geometry());
+    }
+    names_->setGeometry(rect());
+    names_->place(shirts, grass().toRect());
+    names_->raise();
+}
+
+QRectF PitchView::keeper() const {
+    const QRectF field = field_of(grass());
+    const QSizeF size = marker_size();
+    return {field.left() - size.width() * 0.3, field.center().y() - size.height() / 2, size.width(), size.height()};
 }
 
 QRectF PitchView::grass() const {
@@ -211,19 +244,14 @@ void PitchView::paintEvent(QPaintEvent*) {
         painter.fillRect(QRectF(area.left() + i * stripe, area.top(), stripe + 1, area.height()),
                          i % 2 == 0 ? QColor(0x2f, 0x7d, 0x3c) : QColor(0x37, 0x89, 0x45));
     }
-    const double margin = area.width() * 0.04;
-    const double strip = std::max(22.0, area.height() * 0.06);
-    const QRectF field = area.adjusted(margin, strip, -margin, -strip);
+    const QRectF field = field_of(area);
     draw_lines(painter, field);
     QFont small_font = font();
     small_font.setPixelSize(std::max(10, static_cast<int>(area.height() * 0.026)));
     // The keeper is no marker; he tells the own goal.
-    const QSizeF size = marker_size();
-    const QRectF keeper(field.left() - size.width() * 0.3, field.center().y() - size.height() / 2, size.width(),
-                        size.height());
-    draw_shirt(painter, keeper.adjusted(2, 2, -2, -2),
+    draw_shirt(painter, keeper().adjusted(2, 2, -2, -2),
                {QColor(0x4a, 0x4e, 0x57), QColor(255, 255, 255, 200), Qt::white}, QStringLiteral("P"));
-    draw_direction(painter, field, strip, small_font);
+    draw_direction(painter, field, area.bottom() - field.bottom(), small_font);
     painter.setClipping(false);
     if (!isEnabled()) {
         QColor veil = palette().color(QPalette::Window);
@@ -239,6 +267,7 @@ void PitchView::paintEvent(QPaintEvent*) {
 
 void PitchView::resizeEvent(QResizeEvent*) {
     for (MarkerView* marker : findChildren<MarkerView*>(Qt::FindDirectChildrenOnly)) place(*marker);
+    place_names();
 }
 
 void PitchView::keyPressEvent(QKeyEvent* event) {

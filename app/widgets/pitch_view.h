@@ -1,8 +1,11 @@
 #pragma once
 
+#include <QStringList>
 #include <QWidget>
 
 namespace kalco::app {
+
+class PitchNames;
 
 /// An outfield player on the pitch: a shirt with the role's label, coloured by line. Its place is in form units.
 class MarkerView : public QWidget {
@@ -49,6 +52,12 @@ public:
 
     explicit PitchView(QWidget* parent = nullptr);
 
+    /// The names of the first eleven, the keeper first; empty for none. They stand below the shirts where there is
+    /// room.
+    void show_names(const QStringList& names);
+    /// Those that are shown now, and where.
+    const PitchNames& names() const { return *names_; }
+
     void place(MarkerView& marker) const;
     /// The place in form units of a marker whose top left corner stands at a point of this widget.
     QPoint units_at(QPoint corner) const;
@@ -72,6 +81,10 @@ protected:
 private:
     QRectF grass() const;
     QSizeF marker_size() const;
+    QRectF keeper() const;
+    void place_names();
+
+    PitchNames* names_;
 };
 
 }  // namespace kalco::app

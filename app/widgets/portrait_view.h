@@ -1,11 +1,9 @@
 #pragma once
 
+#include <QPixmap>
 #include <QWidget>
-#include <memory>
 
 #include "work/portrait.h"
-
-class QSvgRenderer;
 
 namespace kalco::app {
 
@@ -15,7 +13,6 @@ class PortraitView : public QWidget {
 
 public:
     explicit PortraitView(QWidget* parent = nullptr);
-    ~PortraitView() override;
 
     void show_looks(const Looks& looks);
 
@@ -26,8 +23,11 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    bool shown_ = false;
     Looks looks_;
-    std::unique_ptr<QSvgRenderer> portrait_;
 };
+
+/// The portrait as a square of `side` device-independent pixels. Kept after its first drawing.
+QPixmap portrait_picture(const Looks& looks, int side, qreal ratio);
 
 }  // namespace kalco::app

@@ -2,6 +2,7 @@
 
 #include <QPainter>
 
+#include "app/readable.h"
 #include "app/text.h"
 #include "app/widgets/pick_combo.h"
 #include "disc/player_facts.h"
@@ -53,8 +54,7 @@ void RecordView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QColor ink = palette().color(QPalette::WindowText);
-    QColor faint = ink;
-    faint.setAlphaF(0.6F);
+    const QColor faint = app::faint(ink, palette().color(QPalette::Window), 0.6);
     QRect area = rect().adjusted(8, 4, -4, -4);
     if (player_.empty()) {
         painter.setPen(faint);

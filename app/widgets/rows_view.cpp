@@ -7,6 +7,7 @@
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 
+#include "app/readable.h"
 #include "app/text.h"
 
 namespace kalco::app {
@@ -30,13 +31,19 @@ public:
         option.text.clear();
         if (note.marked) option.font.setBold(true);
         const QWidget* const widget = option.widget;
+        const bool outlined = view_.only_list() && option.state.testFlag(QStyle::State_Selected);
+        if (outlined) option.state.setFlag(QStyle::State_Selected, false);
         QApplication::style()->drawControl(QStyle::CE_ItemViewItem, &option, painter, widget);
 
         painter->save();
         const bool selected = option.state.testFlag(QStyle::State_Selected);
-        QColor ink = option.palette.color(selected ? QPalette::HighlightedText : QPalette::Text);
-        QColor faint = ink;
-        faint.setAlphaF(ink.alphaF() * (selected ? 0.8F : 0.55F));
+        const QColor ink = option.palette.color(selected ? QPalette::HighlightedText : QPalette::Text);
+        const QColor ground = option.palette.color(selected ? QPalette::Highlight : QPalette::Base);
+        const QColor faint = app::faint(ink, ground, selected ? 0.8 : 0.55);
+        if (outlined) {
+            painter->setPen(faint);
+            painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
+        }
         QRect area = option.rect.adjusted(6, 0, -6, 0);
         painter->setFont(option.font);
         if (const int width = number_width(option); width > 0) {
@@ -148,11 +155,19 @@ void RowsView::mouseReleaseEvent(QMouseEvent*) {}
 
 void RowsView::keyPressEvent(QKeyEvent* event) {
     const int key = event->key();
-    const bool erases = key == Qt::Key_Delete && property("deleteErases").toBool();
-    if (key == Qt::Key_Return || key == Qt::Key_Enter || erases) {
+    const bool chord = event->modifiers() & (Qt::AltModifier | Qt::ControlModifier | Qt::MetaModifier);
+    // An access key that nothing has must not search the rows.
+    if (chord && !event->matches(QKeySequence::Copy)) {
+        event->ignore();
+        return;
+    }
+    const bool erases = property("deleteErases").toBool();
+    const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
+    if (erases ? key == Qt::Key_Delete : enter) {
         if (row() >= 0) Q_EMIT pressed_again(row());
         return;
     }
+    if (enter) return;
     QListView::keyPressEvent(event);
     const int chosen = row();
     if (chosen != shown_row_ && chosen >= 0) Q_EMIT picked(chosen);

@@ -30,8 +30,9 @@ private:
 };
 
 /// A list box that tells what the user does and shows nothing by itself: the selected row comes from the model of the
-/// window. The dynamic property "numbered" shows the number of each row; with "deleteErases" the Delete key stands for
-/// the double click.
+/// window. The dynamic property "numbered" shows the number of each row; with "deleteErases" the Delete key and not
+/// Enter stands for the double click; with "onlyList" the selected row is outlined and no more, since it chooses
+/// nothing.
 class RowsView : public QListView {
     Q_OBJECT
 
@@ -44,6 +45,7 @@ public:
     int row() const { return currentIndex().row(); }
 
     bool numbered() const { return property("numbered").toBool(); }
+    bool only_list() const { return property("onlyList").toBool(); }
     std::function<RowNote(int row)> note;
 
     QSize sizeHint() const override;
@@ -51,7 +53,7 @@ public:
 
 Q_SIGNALS:
     void picked(int row);
-    /// The second press of a double click, Enter or, where it erases, Delete.
+    /// The second press of a double click, Enter or, where that erases, Delete.
     void pressed_again(int row);
 
 protected:

@@ -45,6 +45,8 @@ private Q_SLOTS:
         for (QWidget* widget : t.window.findChildren<QWidget*>()) {
             const QString name = widget->objectName();
             if (name.startsWith(QStringLiteral("qt_")) || widget->inherits("QComboBoxPrivateContainer")) continue;
+            // The window's own buttons act by way of the controls.
+            if (name.startsWith(QStringLiteral("view"))) continue;
             const bool takes_input = qobject_cast<QLineEdit*>(widget) != nullptr ||
                                      qobject_cast<QComboBox*>(widget) != nullptr ||
                                      qobject_cast<app::MarkerView*>(widget) != nullptr ||

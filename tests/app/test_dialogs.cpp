@@ -1,12 +1,18 @@
+#include <QAction>
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
+#include <QRegularExpression>
+#include <QTemporaryDir>
 #include <QTimer>
+#include <QTreeView>
 #include <QtTest>
 
+#include "app/program.h"
 #include "app/qt_platform.h"
 #include "app/support/test_window.h"
 #include "editor/window/user.h"
@@ -29,6 +35,16 @@ void when_shown(Step step) {
     });
 }
 
+/// A platform whose program lies in a directory of the test.
+class FixedHome : public app::QtPlatform {
+public:
+    explicit FixedHome(const QString& home) : home_(home.toStdString()) {}
+    std::string program_directory() const override { return home_; }
+
+private:
+    std::string home_;
+};
+
 QStringList captions(const QMessageBox& box) {
     QStringList result;
     for (const QAbstractButton* button : box.buttons()) result << button->text();
@@ -42,7 +58,7 @@ class TestDialogs : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { test::prepare_application(); }
+    void initTestCase() { app::prepare_application(); }
 
     void a_box_shows_the_text_and_the_icon() {
         when_shown<QMessageBox>([](QMessageBox& box) {
@@ -88,6 +104,55 @@ private Q_SLOTS:
     void a_cancelled_file_dialog_gives_no_path() {
         when_shown<QFileDialog>([](QFileDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
         QCOMPARE(platform_.open_dialog("*.DAT|*.DAT", "."), std::string());
+    }
+
+    void a_box_is_titled_once() {
+        when_shown<QMessageBox>([](QMessageBox& box) {
+            QCOMPARE(box.windowTitle(), QStringLiteral("Kalco"));
+            QTest::keyClick(&box, Qt::Key_Return);
+        });
+        platform_.message("?", Icon::information, Buttons::ok);
+    }
+
+    void the_side_bar_has_the_side_directories_that_are_there() {
+        QTemporaryDir home;
+        QVERIFY(QDir(home.path()).mkdir(QStringLiteral("Export")));
+        QVERIFY(QDir(home.path()).mkdir(QStringLiteral("N° Maglia")));
+        FixedHome platform(home.path());
+        QStringList shown;
+        when_shown<QFileDialog>([&](QFileDialog& dialog) {
+            for (const QUrl& url : dialog.sidebarUrls()) shown << url.toLocalFile();
+            QTest::keyClick(&dialog, Qt::Key_Escape);
+        });
+        platform.open_dialog("*.DAT|*.DAT", ".");
+        QVERIFY(shown.contains(home.filePath(QStringLiteral("Export"))));
+        QVERIFY(shown.contains(home.filePath(QStringLiteral("N° Maglia"))));
+        QVERIFY(!shown.contains(home.filePath(QStringLiteral("Transfer"))));
+    }
+
+    void the_file_dialog_speaks_italian_all_through() {
+        QStringList texts;
+        when_shown<QFileDialog>([&](QFileDialog& dialog) {
+            for (const QLabel* label : dialog.findChildren<QLabel*>()) texts << label->text();
+            for (const QAbstractButton* button : dialog.findChildren<QAbstractButton*>()) {
+                texts << button->text() << button->toolTip();
+            }
+            for (const QAction* action : dialog.findChildren<QAction*>()) texts << action->text();
+            for (const QTreeView* tree : dialog.findChildren<QTreeView*>()) {
+                for (int column = 0; column < tree->model()->columnCount(); ++column) {
+                    texts << tree->model()->headerData(column, Qt::Horizontal).toString();
+                }
+            }
+            QTest::keyClick(&dialog, Qt::Key_Escape);
+        });
+        platform_.open_dialog("*.DAT|*.DAT", ".");
+        const QString all = texts.join(u'|');
+        QVERIFY(all.contains(QStringLiteral("Data")));
+        for (const char* english : {"Name", "Size", "Date", "Type", "Back", "Forward", "Parent", "Folder", "View",
+                                    "Open", "Cancel", "Look", "Delete", "Rename", "Show", "Create", "directory"}) {
+            const QRegularExpression word(QStringLiteral("\\b%1\\b").arg(QLatin1String(english)));
+            QVERIFY2(!word.match(all).hasMatch(), qPrintable(QLatin1String(english) + QStringLiteral(": ") + all));
+        }
     }
 
     void the_filters_are_pairs_of_a_label_and_a_pattern() {

@@ -1,14 +1,20 @@
 #include <QApplication>
 #include <QDragEnterEvent>
+#include <QFile>
 #include <QLabel>
+#include <QMenuBar>
 #include <QMimeData>
+#include <QPushButton>
 #include <QRadioButton>
+#include <QRegularExpression>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QtTest>
 
+#include "app/status_line.h"
 #include "app/support/test_window.h"
 #include "app/text.h"
+#include "app/widgets/notice.h"
 #include "app/widgets/pick_combo.h"
 #include "disc/runtime_error.h"
 #include "editor/window/general.h"
@@ -77,7 +83,7 @@ private Q_SLOTS:
         QMimeData data;
         data.setUrls({QUrl::fromLocalFile(QStringLiteral("/x/other.bin"))});
         QString dropped;
-        connect(&t.window, &app::KalcoWindow::image_dropped, this, [&](const QString& path) { dropped = path; });
+        connect(&t.window, &app::KalcoWindow::image_wanted, this, [&](const QString& path) { dropped = path; });
         QDragEnterEvent enter({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(&t.window, &enter);
         QVERIFY(enter.isAccepted());
@@ -88,7 +94,7 @@ private Q_SLOTS:
 
     void a_pending_import_is_told_until_it_is_gone() {
         test::TestWindow t(home_);
-        auto* const line = t.window.findChild<QLabel*>(QStringLiteral("viewPending"));
+        auto* const line = t.window.findChild<app::Notice*>(QStringLiteral("viewPending"));
         t.binder().act([&] { user::pick(t.form(), t.form().cboSeqSQ, 3); });
         QVERIFY(line->text().isEmpty());
         t.platform.choices.push_back("");
@@ -125,6 +131,13 @@ private Q_SLOTS:
         auto& tabs = t.widget<QTabWidget>(t.form().SSTab1);
         QStringList shared;
         for (int i = 0; i < tabs.count(); ++i) shared << QKeySequence::mnemonic(tabs.tabText(i)).toString();
+        for (const QAction* menu : t.window.menuBar()->actions()) {
+            shared << QKeySequence::mnemonic(menu->text()).toString();
+        }
+        for (const QAbstractButton* button : t.window.findChildren<QAbstractButton*>()) {
+            if (!tabs.isAncestorOf(button)) shared << QKeySequence::mnemonic(button->text()).toString();
+        }
+        QVERIFY(shared.contains(QStringLiteral("Alt+A")));
         for (int i = 0; i < tabs.count(); ++i) {
             QStringList keys = shared;
             for (const QLabel* label : tabs.widget(i)->findChildren<QLabel*>()) {
@@ -158,6 +171,84 @@ private Q_SLOTS:
             QVERIFY2(label != labels.end(), control->name().c_str());
             QCOMPARE((*label)->text().remove(u'&'), app::qt_text(field.caption));
         }
+    }
+
+    void a_key_saves_what_the_shown_tab_holds() {
+        test::TestWindow t(home_);
+        frmKalco& form = t.form();
+        const auto saves = [&t] {
+            t.platform.messages.clear();
+            QTest::keyClick(&t.window, Qt::Key_S, Qt::ControlModifier);
+            QApplication::processEvents();
+            std::vector<std::string> texts;
+            for (const auto& message : t.platform.messages) texts.push_back(message.text);
+            return texts;
+        };
+        const std::vector<std::string> saved{"Salvataggio effettuato con successo"};
+        QVERIFY(saves().empty());
+        QCOMPARE(t.window.findChild<app::StatusLine*>()->text(), QStringLiteral("Qui non c'è niente da salvare"));
+        t.binder().act([&] {
+            user::pick(form, form.cboSeqSQ, 3);
+            user::pick(form, form.cboVel, form.cboVel.row() == 7 ? 0 : 7);
+        });
+        const std::string speed = form.cboVel.text();
+        QVERIFY(saves() == saved);
+        QCOMPARE(form.cboVel.text(), speed);
+        t.select_tab(tab::kickers);
+        t.binder().act([&] { user::pick(form, form.cboSquadra, 3); });
+        QVERIFY(saves() == saved);
+        t.select_tab(tab::formations);
+        t.binder().act([&] { user::pick(form, form.cboSeqSQ2, 3); });
+        QVERIFY(saves() == saved);
+        t.click(form.lblGioc(4));
+        t.click(form.cmdUp);
+        t.click(form.pbFZ(1).value() < StrengthBar::most ? form.cmdPiu(1) : form.cmdMeno(1));
+        QCOMPARE(saves().size(), 2U);
+        t.select_tab(tab::numbers);
+        QVERIFY(saves().empty());
+        t.binder().act([&] { user::pick(form, form.cboSQNum, 3); });
+        t.pick_row(form.ListName, 0);
+        QVERIFY(saves() == saved);
+        t.select_tab(tab::transfers);
+        QVERIFY(saves().empty());
+        t.select_tab(tab::league);
+        QVERIFY(saves().empty());
+    }
+
+    void keys_select_the_tabs_and_open_an_image() {
+        test::TestWindow t(home_);
+        for (const int tab : {5, 4, 3, 2, 1, 0}) {
+            QTest::keyClick(&t.window, static_cast<Qt::Key>(Qt::Key_1 + tab), Qt::ControlModifier);
+            QCOMPARE(t.form().SSTab1.tab(), tab);
+        }
+        t.platform.choices.push_back("");
+        QTest::keyClick(&t.window, Qt::Key_O, Qt::ControlModifier);
+        QCOMPARE(t.platform.dialogs.size(), 2U);
+    }
+
+    void what_was_saved_and_exported_is_told() {
+        test::TestWindow t(home_);
+        frmKalco& form = t.form();
+        const auto told = [&t] { return t.window.findChild<app::StatusLine*>()->text(); };
+        t.binder().act([&] {
+            user::pick(form, form.cboSeqSQ, 10);
+            user::pick(form, form.listDat, 9);
+            user::pick(form, form.cboVel, form.cboVel.row() == 7 ? 0 : 7);
+        });
+        const QString player = app::qt_text(form.listDat.text());
+        t.click(form.cmdSaveCar);
+        QVERIFY(QRegularExpression(QStringLiteral("^Salvato: giocatore Italy, %1 – [1-9][0-9]* byte$").arg(player))
+                    .match(told())
+                    .hasMatch());
+        t.click(form.cmdSaveCar);
+        QCOMPARE(told(), QStringLiteral("Niente da scrivere: l'immagine è già così"));
+        const QString file = QStringLiteral("Export/%1.DAT").arg(app::qt_text(form.txtSQ.text()));
+        QFile::remove(QString::fromStdString(home_.path()) + u'/' + file);
+        t.click(form.cmdExp);
+        QCOMPARE(told(), QStringLiteral("Scritto: ") + file);
+        QTest::qWait(20);
+        t.click(form.cmdExp);
+        QCOMPARE(told(), file + QStringLiteral(", sostituito"));
     }
 
     void option_buttons_follow_the_model() {

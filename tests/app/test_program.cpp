@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTimer>
 #include <QtTest>
 #include <new>
@@ -9,6 +10,7 @@
 #include "app/application.h"
 #include "app/program.h"
 #include "app/support/test_window.h"
+#include "app/widgets/notice.h"
 #include "disc/runtime_error.h"
 #include "editor/window/user.h"
 
@@ -71,6 +73,8 @@ private Q_SLOTS:
         });
         QCOMPARE(program.run(), 1);
         QCOMPARE(text, QStringLiteral("Errore di run-time '13':\nTipo non corrispondente"));
+        QVERIFY(told_.contains(QStringLiteral("Durante: «New».")));
+        QVERIFY(told_.contains(QStringLiteral("Kalco si chiude. Quello che era già scritto nell'immagine resta.")));
         QVERIFY(!form.image.is_open());
         QVERIFY(!program.window().isVisible());
     }
@@ -156,13 +160,83 @@ private Q_SLOTS:
         QVERIFY(texts.contains(QStringLiteral("Errore di run-time '75':\nErrore di accesso al percorso/file")));
     }
 
+    void an_image_of_the_command_line_needs_no_dialog() {
+        const test::DemoHome home;
+        app::Program program;
+        program.open_at_start(QString::fromStdString(home.image()));
+        QTimer::singleShot(after_start, &program.window(), [&] {
+            QVERIFY(QApplication::activeModalWidget() == nullptr);
+            QCOMPARE(program.editor().form.ImagePath, home.image());
+            program.window().close();
+        });
+        QCOMPARE(program.run(), 0);
+    }
+
+    void an_image_of_the_command_line_that_is_not_there_is_told() {
+        app::Program program;
+        program.open_at_start(QStringLiteral("/nowhere/none.bin"));
+        QString notice;
+        QTimer::singleShot(after_start, &program.window(), [&] {
+            notice = program.window().findChild<app::Notice*>(QStringLiteral("viewImageNotice"))->text();
+            program.window().close();
+        });
+        QCOMPARE(program.run(), 0);
+        QVERIFY(notice.contains(QStringLiteral("il file non c'è")));
+    }
+
+    void the_remedy_for_the_lost_path_opens_the_same_image() {
+        const test::DemoHome home;
+        app::Program program;
+        frmKalco& form = program.editor().form;
+        choose_next(home);
+        QTimer::singleShot(after_start, &program.window(), [&] {
+            app::Binder& binder = program.window().binder();
+            cancel_next_dialog();
+            QTest::mouseClick(binder.widget_of(form.cmdOpen), Qt::LeftButton);
+            QVERIFY(form.ImagePath.empty());
+            auto* const remedy = program.window().findChild<QPushButton*>(QStringLiteral("viewReopen"));
+            QVERIFY(remedy->isVisible());
+            QTest::mouseClick(remedy, Qt::LeftButton);
+            QCOMPARE(form.ImagePath, home.image());
+            QVERIFY(form.image.is_open() && !remedy->isVisible());
+            program.window().close();
+        });
+        QCOMPARE(program.run(), 0);
+    }
+
+    void no_import_is_told_while_the_file_is_asked_for() {
+        const test::DemoHome home;
+        app::Program program;
+        frmKalco& form = program.editor().form;
+        choose_next(home);
+        bool told_before = true;
+        bool told_again = true;
+        bool told_behind = false;
+        QTimer::singleShot(after_start, &program.window(), [&] {
+            app::Binder& binder = program.window().binder();
+            const auto* const line = program.window().findChild<app::Notice*>(QStringLiteral("viewPending"));
+            binder.act([&form] { user::pick(form, form.cboSeqSQ, 3); });
+            for (bool* told : {&told_before, &told_again}) {
+                QTimer::singleShot(0, &program.window(), [line, told] {
+                    *told = line->isVisible();
+                    qobject_cast<QFileDialog*>(QApplication::activeModalWidget())->reject();
+                });
+                QTest::mouseClick(binder.widget_of(form.cmdImp), Qt::LeftButton);
+                told_behind = line->isVisible();
+            }
+            program.window().close();
+        });
+        QCOMPARE(program.run(), 0);
+        QVERIFY(!told_before && !told_again && told_behind);
+    }
+
     void a_dropped_image_replaces_the_open_one_without_a_dialog() {
         const test::DemoHome home;
         const test::DemoHome other;
         app::Program program;
         choose_next(home);
         QTimer::singleShot(after_start, &program.window(), [&] {
-            Q_EMIT program.window().image_dropped(QString::fromStdString(other.image()));
+            Q_EMIT program.window().image_wanted(QString::fromStdString(other.image()));
             QCOMPARE(program.editor().form.ImagePath, other.image());
             QVERIFY(QApplication::activeModalWidget() == nullptr);
             program.window().close();
@@ -172,6 +246,7 @@ private Q_SLOTS:
 
 private:
     static app::Application& application() { return *dynamic_cast<app::Application*>(qApp); }
+    static inline QString told_;
 
     /// Milliseconds, more than the first dialog needs to be answered.
     static constexpr int after_start = 300;
@@ -195,11 +270,12 @@ private:
         });
     }
 
-    /// The text of the box that is shown.
+    /// The text of the box that is shown; what stands below it goes to told_.
     static QString press_enter_in_box() {
         auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         if (box == nullptr) return QStringLiteral("no box");
         const QString text = box->text();
+        told_ = box->informativeText();
         QTest::keyClick(box, Qt::Key_Return);
         return text;
     }

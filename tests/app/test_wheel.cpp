@@ -1,5 +1,7 @@
 #include <QApplication>
 #include <QLineEdit>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QWheelEvent>
@@ -22,7 +24,7 @@ void turn_wheel(QWidget& widget, int steps) {
 
 }  // namespace
 
-/// The wheel changes nothing that does not have the focus.
+/// The wheel changes no field, with the focus or without; it scrolls the page behind it.
 class TestWheel : public QObject {
     Q_OBJECT
 
@@ -58,7 +60,7 @@ private Q_SLOTS:
         QVERIFY(combos > 25);
     }
 
-    void it_turns_a_combo_that_has_the_focus_as_a_pick() {
+    void it_leaves_a_combo_with_the_focus_alone() {
         frmKalco& form = t_->form();
         t_->binder().act([&] {
             user::pick(form, form.cboSeqSQ, 10);
@@ -66,8 +68,20 @@ private Q_SLOTS:
         });
         QVERIFY(t_->widget(form.cboVel).hasFocus());
         turn_wheel(t_->widget(form.cboVel), -1);
-        QCOMPARE(form.cboVel.row(), 4);
-        QCOMPARE(t_->widget<app::PickCombo>(form.cboVel).shown_text(), QStringLiteral("16"));
+        QCOMPARE(form.cboVel.row(), 3);
+        QCOMPARE(t_->widget<app::PickCombo>(form.cboVel).shown_text(), QStringLiteral("15"));
+    }
+
+    void it_scrolls_the_page_behind_a_combo() {
+        frmKalco& form = t_->form();
+        t_->window.resize(700, 400);
+        t_->binder().act([&] { user::pick(form, form.cboSeqSQ, 10); });
+        QApplication::processEvents();
+        auto* const area = qobject_cast<QScrollArea*>(t_->widget<QTabWidget>(form.SSTab1).currentWidget());
+        QVERIFY(area->verticalScrollBar()->maximum() > 0);
+        area->verticalScrollBar()->setValue(0);
+        turn_wheel(t_->widget(form.cboRuolo), -1);
+        QVERIFY(area->verticalScrollBar()->value() > 0);
     }
 
     void it_does_not_leave_the_tab() {

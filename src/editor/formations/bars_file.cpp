@@ -44,12 +44,14 @@ TeamRow chosen_row(const frmKalco& form) {
 
 }  // namespace
 
+std::string bars_file_path(const frmKalco& form) {
+    return side_file_path(form.platform, directory::formations, upper(form.txtSqHEX2.text()) + std::string(extension));
+}
+
 void cmdExport_Click(frmKalco& form) {
     if (!has_bars(chosen_row(form))) return;
     make_side_directory(form.platform, directory::formations);
-    const std::string path =
-        side_file_path(form.platform, directory::formations, upper(form.txtSqHEX2.text()) + std::string(extension));
-    write_lines_made(path, [&form] { return std::vector{bar_digits(form) + formation_digits(form)}; });
+    write_lines_made(bars_file_path(form), [&form] { return std::vector{bar_digits(form) + formation_digits(form)}; });
     form.inform("File creato con successo");
 }
 

@@ -7,6 +7,9 @@ namespace kalco {
 
 void connect_bars_file(frmKalco& form);
 
+/// The file that an export writes now. Error 52 when the team's name can't be a file's.
+std::string bars_file_path(const frmKalco& form);
+
 /// Writes what the tab shows, saved or not. Leaves SelectedMarker at the last marker. Error 52 when the team's name
 /// can't be a file's.
 void cmdExport_Click(frmKalco& form);

@@ -26,12 +26,16 @@ bool with_file_route(frmKalco& form, Steps steps) {
 
 }  // namespace
 
+std::string kickers_file_path(const frmKalco& form) {
+    const std::string name = std::string(trim(form.txtAtt.text())).append(extension);
+    return side_file_path(form.platform, directory::kickers, name);
+}
+
 void cmdExpKick_Click(frmKalco& form) {
     if (form.cboSquadra.row() < 0) return;
     const bool written = with_file_route(form, [&form] {
         make_side_directory(form.platform, directory::kickers);
-        const std::string name = std::string(trim(form.txtAtt.text())).append(extension);
-        write_lines(side_file_path(form.platform, directory::kickers, name), {form.txtHex.text()});
+        write_lines(kickers_file_path(form), {form.txtHex.text()});
     });
     if (written) form.inform("File creato con successo");
 }

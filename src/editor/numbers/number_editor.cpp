@@ -232,16 +232,19 @@ void cmdSaveNum_Click(frmKalco& form) {
     form.reopen_image();
 }
 
-void cmdExpNum_Click(frmKalco& form) {
-    const TeamRow row(form.cboSQNum.row());
-    if (!row.exists()) return;
-    make_side_directory(form.platform, directory::numbers);
-    std::string name(is_nation(row) ? nation_prefix : other_prefix);
+std::string numbers_file_path(const frmKalco& form) {
+    std::string name(is_nation(TeamRow(form.cboSQNum.row())) ? nation_prefix : other_prefix);
     name += upper(form.txtSqSel.text());
     name += extension;
+    return side_file_path(form.platform, directory::numbers, name);
+}
+
+void cmdExpNum_Click(frmKalco& form) {
+    if (form.cboSQNum.row() < 0) return;
+    make_side_directory(form.platform, directory::numbers);
     std::string line;
     for (const std::string& entry : form.ListNum.items()) line += entry;
-    write_lines(side_file_path(form.platform, directory::numbers, name), {line});
+    write_lines(numbers_file_path(form), {line});
     form.inform("File creato con successo");
 }
 

@@ -8,6 +8,9 @@ namespace kalco {
 /// Attaches the handlers of the tab.
 void connect_numbers(frmKalco& form);
 
+/// The file that an export writes now. Error 52 when the team's name can't be a file's.
+std::string numbers_file_path(const frmKalco& form);
+
 /// Reads the team's name, its players and their numbers. A club with a number above 99 is refused: no row is chosen.
 void cboSQNum_Click(frmKalco& form);
 void NAME_NATIONAL(frmKalco& form);

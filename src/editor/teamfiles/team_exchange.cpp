@@ -41,13 +41,15 @@ void import_player(frmKalco& form, int index) {
 
 }  // namespace
 
+std::string exported_team_path(const frmKalco& form) {
+    return side_file_path(form.platform, directory::export_teams, form.txtSQ.text() + std::string(team_file_extension));
+}
+
 void cmdExp_Click(frmKalco& form) {
     if (form.cboSeqSQ.row() < 0) return;
     form.listApp.select(form.listDat.row());
     form.ListFile.clear();
-    const std::string path =
-        side_file_path(form.platform, directory::export_teams, form.txtSQ.text() + std::string(team_file_extension));
-    write_lines_made(path, [&form] {
+    write_lines_made(exported_team_path(form), [&form] {
         for (const std::string& line : team_file_head(form.txtSQ.text(), form.txtSqShort.text())) {
             form.ListFile.add(line);
         }

@@ -8,6 +8,9 @@ namespace kalco {
 
 void connect_team_exchange(frmKalco& form);
 
+/// The file that an export writes now. Error 52 when the team's name can't be a file's.
+std::string exported_team_path(const frmKalco& form);
+
 /// Writes the roster of the lists. Error 52 when the team's name can't be a file's; 5 for fewer than 23 players, after
 /// the file was opened.
 void cmdExp_Click(frmKalco& form);

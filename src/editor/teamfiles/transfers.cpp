@@ -64,9 +64,7 @@ void swap_players(const TransferSide& first, int v, const TransferSide& second, 
 
 void save_side(frmKalco& form, const TransferSide& side) {
     try {
-        const std::string path =
-            side_file_path(form.platform, directory::transfer, side.team.text() + std::string(team_file_extension));
-        write_lines(path, side.lines.items());
+        write_lines(transfer_file_path(form, side.team), side.lines.items());
     } catch (const RuntimeError& failure) {
         form.platform.message(std::string(failure.text()), Icon::stop, Buttons::ok);
         return;
@@ -75,6 +73,10 @@ void save_side(frmKalco& form, const TransferSide& side) {
 }
 
 }  // namespace
+
+std::string transfer_file_path(const frmKalco& form, const TextBox& team) {
+    return side_file_path(form.platform, directory::transfer, team.text() + std::string(team_file_extension));
+}
 
 void cmdTeam1_Click(frmKalco& form) {
     open_team(form, first_side(form), [&form] {

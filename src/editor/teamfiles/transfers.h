@@ -14,6 +14,9 @@ struct TransferSide {
 
 void connect_transfers(frmKalco& form);
 
+/// The file that a side with that name is saved to. Error 52 when the name can't be a file's.
+std::string transfer_file_path(const frmKalco& form, const TextBox& team);
+
 void cmdTeam1_Click(frmKalco& form);
 void cmdteam2_Click(frmKalco& form);
 void ListVende_Click(frmKalco& form);

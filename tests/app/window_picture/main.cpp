@@ -1,4 +1,5 @@
-// window_picture IMAGE OUT.png [TAB] [dark]: a picture of the window with a team chosen on the tab.
+// window_picture IMAGE OUT.png [TAB] [dark] [unsaved] [dropped]: a picture of the window with a team chosen on the tab,
+// with something changed on it, with that dropped. An image that is not there gives the window without one.
 
 #include <QApplication>
 #include <QPixmap>
@@ -38,6 +39,44 @@ void choose_something(frmKalco& form) {
     }
 }
 
+/// Something that is not saved, where the tab has such a thing.
+void change_something(frmKalco& form) {
+    switch (form.SSTab1.tab()) {
+        case tab::players:
+            user::type(form, form.txtSqShort, "ITL");
+            user::pick(form, form.cboVel, 7);
+            user::type(form, form.txtEta, "33");
+            break;
+        case tab::league:
+            for (int row = 10; row < 60 && form.listNC.enabled(); ++row) user::double_click(form, form.listNC, row);
+            user::double_click(form, form.listAppNameNC, 4);
+            break;
+        case tab::kickers:
+            user::click(form, form.opRIG(6));
+            user::pick(form, form.listAtt, 14);
+            break;
+        case tab::transfers: user::click(form, form.cmdTransfer); break;
+        case tab::formations:
+            user::click(form, form.lblGioc(8));
+            for (int i = 0; i < 4; ++i) user::click(form, form.cmdUp);
+            break;
+        case tab::numbers:
+            user::type(form, form.txtNumMod, "31");
+            user::click(form, form.cmdModNum);
+            user::pick(form, form.cboSQNum, 3);
+            user::pick(form, form.ListName, 2);
+            break;
+        default: break;
+    }
+}
+
+void drop_it(frmKalco& form) {
+    if (form.SSTab1.tab() == tab::players) return static_cast<void>(user::pick(form, form.listDat, 4));
+    const int tab = form.SSTab1.tab();
+    user::select_tab(form, tab == tab::transfers ? tab::players : tab::transfers);
+    user::select_tab(form, tab);
+}
+
 /// Two exported teams for the transfers.
 void open_two_files(test::TestWindow& test) {
     frmKalco& form = test.form();
@@ -59,17 +98,23 @@ int main(int argc, char** argv) {
     const QApplication app(argc, argv);
     const QStringList arguments = QApplication::arguments();
     if (arguments.size() < 3) {
-        std::cerr << "window_picture IMAGE OUT.png [TAB] [dark]\n";
+        std::cerr << "window_picture IMAGE OUT.png [TAB] [dark] [unsaved] [dropped]\n";
         return 2;
     }
     test::prepare_application(arguments.contains(QStringLiteral("dark")));
     test::TestWindow test(arguments[1].toStdString());
     const int tab = arguments.value(3).toInt();
-    test.window.binder().act([&] {
-        if (tab == tab::transfers) return open_two_files(test);
-        user::select_tab(test.form(), tab);
-        choose_something(test.form());
-    });
+    if (test.form().image.is_open()) {
+        test.window.binder().act([&] {
+            if (tab == tab::transfers) return open_two_files(test);
+            user::select_tab(test.form(), tab);
+            choose_something(test.form());
+        });
+        if (arguments.contains(QStringLiteral("unsaved"))) {
+            test.window.binder().act([&] { change_something(test.form()); });
+        }
+        if (arguments.contains(QStringLiteral("dropped"))) test.window.binder().act([&] { drop_it(test.form()); });
+    }
     QApplication::processEvents();
     return test.window.grab().save(arguments[2]) ? 0 : 1;
 }

@@ -1,4 +1,4 @@
-#include "app/player_summary.h"
+#include "app/tabs/player_summary.h"
 
 #include <algorithm>
 

@@ -1,0 +1,90 @@
+#include "app/readable.h"
+
+#include <QWidget>
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace kalco::app {
+namespace {
+
+double linear(double channel) {
+    return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+}
+
+double luminance(const QColor& colour) {
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
+}
+
+QColor mix(const QColor& one, const QColor& other, double share) {
+    const auto channel = [share](float a, float b) { return static_cast<float>(a * share + b * (1 - share)); };
+    return QColor::fromRgbF(channel(one.redF(), other.redF()), channel(one.greenF(), other.greenF()),
+                            channel(one.blueF(), other.blueF()));
+}
+
+/// The first mixture, from `share` of `towards` on, that can be read.
+QColor mixed_until_readable(const QColor& towards, const QColor& from, const QColor& ground, double share) {
+    constexpr double step = 0.02;
+    for (double part = share; part < 1; part += step) {
+        const QColor colour = mix(towards, from, part);
+        if (contrast(colour, ground) >= readable_contrast) return colour;
+    }
+    return towards;
+}
+
+}  // namespace
+
+double contrast(const QColor& ink, const QColor& ground) {
+    const double one = luminance(ink);
+    const double other = luminance(ground);
+    return (std::max(one, other) + 0.05) / (std::min(one, other) + 0.05);
+}
+
+QColor readable(const QColor& ink, const QColor& ground) {
+    const QColor end = contrast(Qt::white, ground) > contrast(Qt::black, ground) ? Qt::white : Qt::black;
+    return mixed_until_readable(end, ink, ground, 0);
+}
+
+QColor faint(const QColor& ink, const QColor& ground, double share) {
+    return mixed_until_readable(ink, ground, ground, share);
+}
+
+QColor warning_ink(const QColor& ground) {
+    return readable(QColor(0xd9, 0x6a, 0x00), ground);
+}
+
+void set_ink(QWidget& label, const QColor& ink) {
+    if (label.palette().color(QPalette::WindowText) == ink) return;
+    QPalette colours;
+    colours.setColor(QPalette::WindowText, ink);
+    label.setPalette(colours);
+}
+
+void set_warning_ink(QWidget& label) {
+    set_ink(label, warning_ink(label.palette().color(QPalette::Window)));
+}
+
+QPalette readable_palette(QPalette palette) {
+    struct Pair {
+        QPalette::ColorRole ink, ground;
+    };
+    constexpr std::array<Pair, 3> texts{{{QPalette::WindowText, QPalette::Window},
+                                         {QPalette::Text, QPalette::Base},
+                                         {QPalette::ButtonText, QPalette::Button}}};
+    for (const auto& [ink, ground] : texts) {
+        const QColor colour =
+            readable(palette.color(QPalette::Disabled, ink), palette.color(QPalette::Disabled, ground));
+        palette.setColor(QPalette::Disabled, ink, colour);
+    }
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        // Hints stand in fields and beside them.
+        QColor hint = palette.color(group, QPalette::PlaceholderText);
+        const QColor base = palette.color(group, QPalette::Base);
+        hint = mix(QColor(hint.rgb()), base, hint.alphaF());
+        hint = readable(readable(hint, base), palette.color(group, QPalette::Window));
+        palette.setColor(group, QPalette::PlaceholderText, hint);
+    }
+    return palette;
+}
+
+}  // namespace kalco::app
