@@ -68,15 +68,20 @@ public:
         ++row_;
         std::vector<std::string> cells;
         do {
-            if (cells_ + cells.size() == most_table_cells) throw TableError(row_, {}, "too many cells");
+            if (cells.size() == most_table_cells) refuse();
             cells.emplace_back(next_cell());
         } while (take(separator_));
         if (!done() && !take('\n') && take('\r')) take('\n');
         return cells;
     }
-    void keep(const std::vector<std::string>& cells) { cells_ += cells.size(); }
+    /// Counts the cells of a row that stays; empty rows cost nothing.
+    void keep(const std::vector<std::string>& cells) {
+        cells_ += cells.size();
+        if (cells_ > most_table_cells) refuse();
+    }
 
 private:
+    [[noreturn]] void refuse() const { throw TableError(row_, {}, "too many cells"); }
     bool at_end_of_cell() const {
         return done() || rest_.front() == separator_ || row_end.find(rest_.front()) != std::string_view::npos;
     }

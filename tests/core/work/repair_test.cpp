@@ -14,8 +14,8 @@
 namespace kalco {
 namespace {
 
-using test::FakeFiles;
 using test::CallFault;
+using test::FakeFiles;
 using test::image_name;
 using test::journal_name;
 
