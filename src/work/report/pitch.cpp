@@ -85,7 +85,7 @@ void write_pitch(Markup& page, const Report& report, const ReportTeam& team) {
     page.attribute("viewBox", "0 0 " + std::to_string(width) + ' ' + std::to_string(height));
     page.attribute("role", "img").attribute("aria-label", "Formazione " + module + " di " + team.title);
     write_field(page);
-    constexpr int keeper_x = 2;
+    constexpr int keeper_x = 3;
     write_spot(page, report, team, 0, "Portiere", scaled(keeper_x, pitch_x_steps, width), height / 2);
     for (std::size_t i = 0; i < team.formation.size(); ++i) {
         const ReportSpot& spot = team.formation[i];
