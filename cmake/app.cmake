@@ -13,7 +13,7 @@ set_target_properties(kalco_app PROPERTIES
     AUTOMOC ON AUTOUIC ON AUTOUIC_SEARCH_PATHS "${PROJECT_SOURCE_DIR}/app/forms;${PROJECT_SOURCE_DIR}/app")
 target_include_directories(kalco_app PUBLIC ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/app)
 # The window model has a member named as one of Qt's macros.
-target_compile_definitions(kalco_app PUBLIC QT_NO_KEYWORDS PRIVATE KALCO_VERSION="${PROJECT_VERSION}")
+target_compile_definitions(kalco_app PUBLIC QT_NO_KEYWORDS KALCO_VERSION="${PROJECT_VERSION}")
 target_link_libraries(kalco_app PUBLIC kalco_editor kalco_work Qt6::Core Qt6::Gui Qt6::Widgets Qt6::Svg Qt6::SvgWidgets
                                 PRIVATE kalco_warnings)
 if(KALCO_PCH)
@@ -28,7 +28,6 @@ target_link_libraries(kalco_app INTERFACE $<TARGET_OBJECTS:kalco_pictures>)
 add_dependencies(kalco_app kalco_pictures)
 
 add_executable(kalco ${app_main})
-target_compile_definitions(kalco PRIVATE KALCO_VERSION="${PROJECT_VERSION}")
 target_link_libraries(kalco PRIVATE kalco_app kalco_warnings)
 install(TARGETS kalco RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 # The Italian words of Qt's own dialogs come along.

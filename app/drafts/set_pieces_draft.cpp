@@ -8,10 +8,10 @@
 namespace kalco::app {
 namespace {
 
-constexpr std::array<const char*, set_piece_columns> column_names{"punizioni corte", "punizioni lunghe", "corner DX",
+constexpr std::array<const char*, set_piece_bytes> column_names{"punizioni corte", "punizioni lunghe", "corner DX",
                                                                   "corner SX",       "rigori",           "capitano"};
 
-std::array<ControlArray<OptionButton>*, set_piece_columns> option_columns(frmKalco& form) {
+std::array<ControlArray<OptionButton>*, set_piece_bytes> option_columns(frmKalco& form) {
     return {&form.opCPC, &form.opCPL, &form.opCAD, &form.opCAS, &form.opRIG, &form.opCAP};
 }
 
@@ -40,7 +40,7 @@ Draft SetPiecesDraft::compare() {
     const std::string stored = hex_digits(form_.image.read(set_piece_field(row_)));
     const QString owner = qt_text(form_.cboSquadra.text());
     Draft draft{QStringLiteral("Tiratori di %1 non salvati").arg(owner), owner, {}, {}};
-    for (std::size_t column = 0; column < set_piece_columns; ++column) {
+    for (std::size_t column = 0; column < set_piece_bytes; ++column) {
         const std::string_view before = pick_of(stored, column);
         const std::string_view after = form_.set_piece_picks[column];
         if (before == after) continue;
@@ -50,7 +50,7 @@ Draft SetPiecesDraft::compare() {
     draft.make_again = [this, row = row_, picks = form_.set_piece_picks] {
         user::select_tab(form_, tab::kickers);
         if (!go_to_row(form_, form_.cboSquadra, row.value())) return;
-        for (std::size_t column = 0; column < set_piece_columns; ++column) {
+        for (std::size_t column = 0; column < set_piece_bytes; ++column) {
             ControlArray<OptionButton>& options = *option_columns(form_)[column];
             const int pick = hex_pair(picks[column]);
             if (options.has(pick)) user::click(form_, options(pick));

@@ -9,6 +9,7 @@
 #include "app/tabs/player_summary.h"
 #include "app/widgets/rows_view.h"
 #include "disc/roster.h"
+#include "disc/team_names.h"
 #include "disc/teams.h"
 #include "editor/teams/names.h"
 
@@ -48,7 +49,7 @@ void LeagueTab::show_picks() {
 
 void LeagueTab::show_lengths() {
     const int club = form_.listDefault.row();
-    long_name_.show_limit(club >= 0 ? full_width_letters(first_club + club) : 0);
+    long_name_.show_limit(club >= 0 ? full_width_letters(team_of(Club(club))) : 0);
     short_name_.show_limit(club >= 0 ? short_name_bytes : 0);
 }
 

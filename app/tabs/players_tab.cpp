@@ -44,7 +44,7 @@ std::vector<std::string> shirt_numbers(const frmKalco& form) {
 /// The shortest of a team's name tables: what is longer is cut there.
 int shortest_table_name(int team) {
     int least = 0;
-    if (team < 0 || team >= team_count) return least;
+    if (!Team(team).exists()) return least;
     for (const int length : team_facts.at(static_cast<std::size_t>(team)).name_lengths) {
         if (length > 0 && (least == 0 || length < least)) least = length;
     }

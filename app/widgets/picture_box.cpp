@@ -18,7 +18,7 @@ void PictureBox::show_picture(const QString& name) {
 
 void PictureBox::paintEvent(QPaintEvent*) {
     const int side = std::min(width(), height());
-    const QPixmap drawing = picture(name_, side, devicePixelRatioF());
+    const QPixmap drawing = app::picture(name_, side, devicePixelRatioF());
     if (drawing.isNull()) return;
     QPainter painter(this);
     if (!isEnabled()) painter.setOpacity(0.5);
