@@ -99,7 +99,10 @@ TEST_F(EditTest, TellsAllThatChanges) {
     Edit edit("disc.bin", false, test::opener_of(disc));
     edit.image().open(edit.path());
     edit.image().write(at(edited, 100), "FIELD");
-    edit.image().write(at(2, 2351), "ab");
+    edit.image().write(at(2, 2071), "a");
+    edit.image().write(at(3, 24), "b");
+    // Parities alone: they are renewed to what they were.
+    edit.image().write(at(5, 2300), "parities");
     const std::vector<SectorChange> changes = edit.settle();
     ASSERT_EQ(changes.size(), 3U);
     EXPECT_EQ(changes[0].sector, 2);
