@@ -17,7 +17,7 @@ using fuzz::require;
 
 namespace {
 
-constexpr std::size_t sectors = 20;
+constexpr std::size_t sectors = 18;
 
 std::string image_of(fuzz::Bytes& input) {
     std::vector<int> choices(sectors);
@@ -77,11 +77,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     {
         Image image(test::opener_of(disc));
         image.open("disc.bin");
-        for (const auto& edc : check::edc_methods()) {
-            for (const auto& parities : check::parity_methods()) {
-                require(found_bad(image, {edc.fits, parities.fit}) == bad);
-            }
-        }
+        require(found_bad(image, {check::edc_methods().front().fits, check::parity_methods().front().fit}) == bad);
+        require(found_bad(image, {}) == bad);
     }
     {
         Edit edit("disc.bin", false, test::opener_of(disc));
