@@ -1,14 +1,11 @@
 #include <filesystem>
 #include <memory>
-#include <stdexcept>
 #include <string_view>
-#include <system_error>
-#include <utility>
 
 #include "ctl/demo/demo_image.h"
+#include "disc/image/file_error.h"
 #include "disc/image/new_file.h"
 #include "disc/image/storage.h"
-#include "disc/runtime_error.h"
 
 namespace kalco::demo {
 namespace {
@@ -20,14 +17,9 @@ std::unique_ptr<Storage> hold_existing(const std::string& path, bool replace) {
     std::error_code ignored;
     const fs::file_status status = fs::status(path, ignored);
     if (!fs::exists(status)) return nullptr;
-    if (!fs::is_regular_file(status)) throw std::runtime_error(path + ": it is no plain file");
-    if (!replace) throw std::runtime_error(path + ": it exists already; --force replaces it");
-    try {
-        return open_file(path);
-    } catch (const RuntimeError& failure) {
-        const bool held = failure.number() == error::permission_denied;
-        throw std::runtime_error(path + (held ? ": another program uses it" : ": it can't be written"));
-    }
+    if (!fs::is_regular_file(status)) throw FileError(path, "it is no plain file");
+    if (!replace) throw FileError(path, "it exists already; --force replaces it");
+    return open_to_write(path);
 }
 
 }  // namespace

@@ -17,7 +17,7 @@ class Replacing(ProgramTest):
                 lock(file)
                 result = self.run_program("demo", "--force", "disc.bin")
                 self.assertEqual(result.returncode, 2)
-                self.assertIn(b"kalcoctl demo: disc.bin: another program uses it", result.stderr)
+                self.assertIn(b"kalcoctl demo: disc.bin: another program has it open", result.stderr)
                 self.assertEqual(self.read("disc.bin"), b"mine")
                 self.assertEqual(self.entries(), ["disc.bin"])
 

@@ -4,6 +4,7 @@
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <system_error>
 
 namespace kalco {
 
@@ -27,6 +28,19 @@ private:
     std::string path_;
     std::optional<std::int64_t> position_;
     std::string reason_;
+};
+
+/// The same for a failure that the system has a number for, an errno.
+class SystemFileError : public FileError {
+public:
+    SystemFileError(const std::string& path, int code)
+        : FileError(path, std::system_category().message(code)),
+          code_(code) {}
+
+    int code() const { return code_; }
+
+private:
+    int code_;
 };
 
 }  // namespace kalco

@@ -6,24 +6,25 @@
 
 #include <cerrno>
 #include <filesystem>
-#include <optional>
-#include <system_error>
 #include <utility>
+
+#include "disc/image/file_error.h"
 
 namespace kalco {
 namespace {
 
-[[noreturn]] void fail(const std::string& path, int error) {
-    throw std::system_error(error, std::system_category(), path);
-}
-
-/// Calls again what a signal broke off.
-template <typename Call>
-auto retried(Call call) {
-    for (;;) {
-        const auto result = call();
-        if (result >= 0 || errno != EINTR) return result;
+/// The file that a path leads to when every link is followed, also where nothing is there yet.
+std::string link_target(const std::string& path) {
+    constexpr int most_links = 40;
+    std::filesystem::path target(path);
+    std::error_code failure;
+    for (int links = 0; std::filesystem::is_symlink(target, failure); ++links) {
+        if (links == most_links) throw SystemFileError(path, ELOOP);
+        const auto next = std::filesystem::read_symlink(target, failure);
+        if (failure) throw SystemFileError(path, failure.value());
+        target = target.parent_path() / next;
     }
+    return target.string();
 }
 
 /// What is at the path; nothing when it is free.
@@ -31,82 +32,71 @@ std::optional<struct stat> existing_file(const std::string& path) {
     struct stat about {};
     if (::stat(path.c_str(), &about) == 0) return about;
     if (errno == ENOENT) return std::nullopt;
-    fail(path, errno);
+    throw SystemFileError(path, errno);
 }
 
-std::string directory_of(const std::string& path) {
+/// What can't be replaced is refused, and so is what is write-protected: renaming asks the directory alone.
+void require_replaceable(const std::string& path, const struct stat& existing) {
+    if (S_ISDIR(existing.st_mode)) throw SystemFileError(path, EISDIR);
+    if (!S_ISREG(existing.st_mode)) throw SystemFileError(path, ENOTSUP);
+    if (::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0) throw SystemFileError(path, errno);
+}
+
+/// Only some may give files away. The mode comes last, as a change of the owner takes bits from it.
+void take_over(const struct stat& existing, const std::string& part) {
+    static_cast<void>(::chown(part.c_str(), existing.st_uid, existing.st_gid) == 0);
+    static_cast<void>(::chmod(part.c_str(), existing.st_mode & 07777));
+}
+
+/// A directory that can't be opened is brought to the disk when the system wishes.
+void sync_directory_of(const std::string& path) {
     const auto parent = std::filesystem::path(path).parent_path();
-    return parent.empty() ? "." : parent.string();
-}
-
-/// Not every file system knows this for its directories; the name stands then as soon as the system wishes.
-void sync_directory(const std::string& directory) {
-    const int fd = retried([&] { return ::open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); });
-    if (fd < 0) return;
-    const int result = retried([&] { return ::fsync(fd); });
-    const int error = errno;
-    ::close(fd);
-    if (result != 0 && error != EINVAL) fail(directory, error);
+    const std::string directory = parent.empty() ? "." : parent.string();
+    const Descriptor opened = Descriptor::opened(system_files(), directory, FileSystem::Access::directory);
+    if (opened.failure() != 0) return;
+    if (const int failure = opened.sync()) throw SystemFileError(directory, failure);
 }
 
 }  // namespace
 
-std::string link_target(const std::string& path) {
-    constexpr int most_links = 40;
-    std::filesystem::path target(path);
-    std::error_code none;
-    for (int links = 0; std::filesystem::is_symlink(target, none); ++links) {
-        if (links == most_links) fail(path, ELOOP);
-        target = target.parent_path() / std::filesystem::read_symlink(target);
-    }
-    return target.string();
-}
-
 NewFile::NewFile(const std::string& path) : target_(link_target(path)) {
     const auto existing = existing_file(target_);
-    if (existing && !S_ISREG(existing->st_mode)) fail(path, S_ISDIR(existing->st_mode) ? EISDIR : ENOTSUP);
-    // Renaming asks the directory alone: a file that is write-protected would go all the same.
-    if (existing && ::faccessat(AT_FDCWD, target_.c_str(), W_OK, AT_EACCESS) != 0) fail(path, errno);
+    if (existing) require_replaceable(target_, *existing);
     constexpr int most_parts = 100;
-    for (int k = 0; fd_ < 0; ++k) {
+    for (int k = 0;; ++k) {
         part_ = target_ + ".part" + (k == 0 ? "" : std::to_string(k));
-        fd_ = retried([&] { return ::open(part_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666); });
-        if (fd_ < 0 && (errno != EEXIST || k == most_parts)) fail(path, errno);
+        Descriptor created = Descriptor::created(system_files(), part_, 0666);
+        if (created.failure() == 0) {
+            file_.emplace(std::move(created));
+            break;
+        }
+        if (created.failure() != EEXIST || k == most_parts) throw SystemFileError(target_, created.failure());
     }
-    if (existing) {
-        // Only some may give files away; the mode comes last, as a change of the owner takes bits from it.
-        static_cast<void>(::fchown(fd_, existing->st_uid, existing->st_gid) == 0);
-        static_cast<void>(::fchmod(fd_, existing->st_mode & 07777));
-    }
+    if (existing) take_over(*existing, part_);
 }
 
 NewFile::~NewFile() {
-    if (fd_ >= 0) ::close(fd_);
     if (!part_.empty()) ::unlink(part_.c_str());
 }
 
 void NewFile::write(std::string_view bytes) {
-    while (!bytes.empty()) {
-        const ssize_t put = retried([&] { return ::pwrite(fd_, bytes.data(), bytes.size(), end_); });
-        if (put <= 0) fail(target_, put < 0 ? errno : EIO);
-        bytes.remove_prefix(static_cast<std::size_t>(put));
-        end_ += put;
-    }
+    if (const int failure = file_->write(bytes, end_)) throw SystemFileError(target_, failure);
+    end_ += static_cast<std::int64_t>(bytes.size());
 }
 
 void NewFile::finish(Existing existing) {
-    if (retried([&] { return ::fsync(fd_); }) != 0 && errno != EINVAL) fail(target_, errno);
-    if (::close(std::exchange(fd_, -1)) != 0 && errno != EINTR) fail(target_, errno);
+    if (const int failure = file_->sync()) throw SystemFileError(target_, failure);
+    file_.reset();
     // A link is refused where a file has come up meanwhile; a renaming would take its place. Some file systems have
     // no links.
     if (existing == Existing::keep && ::link(part_.c_str(), target_.c_str()) == 0) {
         ::unlink(part_.c_str());
     } else {
-        if (existing == Existing::keep && errno == EEXIST) fail(target_, EEXIST);
-        if (::rename(part_.c_str(), target_.c_str()) != 0) fail(target_, errno);
+        if (existing == Existing::keep && errno == EEXIST) throw SystemFileError(target_, EEXIST);
+        if (::rename(part_.c_str(), target_.c_str()) != 0) throw SystemFileError(target_, errno);
     }
     part_.clear();
-    sync_directory(directory_of(target_));
+    sync_directory_of(target_);
 }
 
 }  // namespace kalco

@@ -1,19 +1,16 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
+#include "disc/image/descriptor.h"
+
 namespace kalco {
 
-/// The file that a path leads to when every link is followed, also where nothing is there yet.
-/// Throws std::system_error for links that lead in a circle.
-std::string link_target(const std::string& path);
-
 /// A file that takes its name only when it is complete: until then it is a part file beside, and what had the name
-/// stands. A part that is given up goes away again.
-///
-/// Every failure is a std::system_error whose what() is the path and the system's reason.
+/// stands. A part that is given up goes away again. Every failure is a SystemFileError.
 class NewFile {
 public:
     /// Links are followed: the file that they lead to is the one to be replaced. It has to be a plain file that may be
@@ -33,7 +30,7 @@ public:
 private:
     std::string target_;
     std::string part_;  ///< Empty once the name is taken.
-    int fd_ = -1;
+    std::optional<Descriptor> file_;
     std::int64_t end_ = 0;
 };
 

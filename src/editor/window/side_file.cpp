@@ -8,6 +8,7 @@
 #include <system_error>
 
 #include "disc/codec/latin1.h"
+#include "disc/image/file_error.h"
 #include "disc/image/new_file.h"
 #include "disc/runtime_error.h"
 
@@ -51,8 +52,7 @@ private:
 };
 
 /// Error 61 when the system tells that there is no room, else the other one.
-[[noreturn]] void fail(const std::system_error& failure, int other) {
-    const int code = failure.code().value();
+[[noreturn]] void fail(int code, int other) {
     throw RuntimeError(code == ENOSPC || code == EDQUOT || code == EFBIG ? error::disk_full : other);
 }
 
@@ -62,8 +62,8 @@ void finish(NewFile& file, const std::vector<std::string>& lines) {
     try {
         file.write(text);
         file.finish();
-    } catch (const std::system_error& failure) {
-        fail(failure, error::device_io);
+    } catch (const SystemFileError& failure) {
+        fail(failure.code(), error::device_io);
     }
 }
 
@@ -71,7 +71,7 @@ void finish(NewFile& file, const std::vector<std::string>& lines) {
 void leave_empty(NewFile& file) {
     try {
         file.finish();
-    } catch (const std::system_error&) {
+    } catch (const SystemFileError&) {
         return;
     }
 }
@@ -87,7 +87,7 @@ void make_side_directory(const Platform& platform, std::string_view name) {
     std::error_code failure;
     if (std::filesystem::exists(path, failure)) return;
     if (std::filesystem::create_directory(path, failure)) return;
-    fail(std::system_error(failure), error::path_access);
+    fail(failure.value(), error::path_access);
 }
 
 std::string side_file_path(const Platform& platform, std::string_view directory_name, std::string_view file_name) {
@@ -133,8 +133,8 @@ void write_lines_made(const std::string& path, const std::function<std::vector<s
     std::optional<NewFile> file;
     try {
         file.emplace(path);
-    } catch (const std::system_error& failure) {
-        fail(failure, error::path_access);
+    } catch (const SystemFileError& failure) {
+        fail(failure.code(), error::path_access);
     }
     std::vector<std::string> lines;
     try {

@@ -7,7 +7,6 @@
 
 #include <cerrno>
 #include <csignal>
-#include <functional>
 
 #include "disc/runtime_error.h"
 #include "support/fake_platform.h"
