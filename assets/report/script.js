@@ -56,13 +56,21 @@
     full.sort(([a], [b]) => (down ? -compare(a, b) : compare(a, b)));
     body.append(...[...full, ...empty].map(([, row]) => row));
   };
+  document.body.classList.add('sortable');
   for (const table of document.querySelectorAll('table')) {
     for (const heading of table.tHead.rows[0].cells) {
-      const button = document.createElement('button');
-      button.type = 'button';
+      /* No <button>: some browsers print those on a table's first page only. */
+      const button = document.createElement('span');
+      button.setAttribute('role', 'button');
+      button.tabIndex = 0;
       button.append(...heading.childNodes);
       heading.append(button);
       button.addEventListener('click', () => sort(table, heading));
+      button.addEventListener('keydown', (event) => {
+        if (event.key !== 'Enter' && event.key !== ' ') return;
+        event.preventDefault();
+        sort(table, heading);
+      });
     }
   }
 })();

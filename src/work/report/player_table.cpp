@@ -84,7 +84,7 @@ std::string_view weight_of(std::string_view build) {
 }
 
 void write_clubs(Markup& page, const Report& report, const ReportPlayer& player) {
-    page.open("td").attribute("class", "l");
+    page.open("td").attribute("class", "l clubs");
     for (const Team club : player.clubs) {
         if (club != player.clubs.front()) page.text(", ");
         write_team_link(page, report, club);
@@ -94,7 +94,7 @@ void write_clubs(Markup& page, const Report& report, const ReportPlayer& player)
 
 void write_origin(Markup& page, const Report& report, int row) {
     const ReportPlayer& player = report.players[static_cast<std::size_t>(row)];
-    page.open("td").attribute("class", "l").open("a").attribute("href", '#' + player.id);
+    page.open("td").attribute("class", "l origin").open("a").attribute("href", '#' + player.id);
     page.text(player.team == default_list ? "Giocatori ML" : report.teams[player.team.place()].title).close().close();
 }
 
@@ -116,7 +116,7 @@ void write_row(Markup& page, const Report& report, int row, std::string_view num
         static constexpr std::array<std::string_view, 8> levels{"v0", "v1", "v2", "v3", "v4", "v5", "v6", "v7"};
         write_cell(page, std::to_string(skill), levels[static_cast<std::size_t>(skill - lowest_skill)]);
     }
-    if (columns.cost) write_cell(page, player.cost);
+    if (columns.cost) write_cell(page, player.cost, "cost");
     if (columns.clubs) write_clubs(page, report, player);
     if (columns.origin) write_origin(page, report, row);
     page.close().raw("\n");

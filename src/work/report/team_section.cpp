@@ -133,7 +133,7 @@ void write_team(Markup& page, const Report& report, const ReportTeam& team) {
 }
 
 void write_comparison(Markup& page, const Report& report) {
-    page.open("div").attribute("class", "scroll team").open("table").attribute("class", "compare");
+    page.open("div").attribute("class", "scroll team comparison").open("table").attribute("class", "compare");
     page.leaf("caption", "Le barre delle squadre, da 0 a 10").open("thead").open("tr");
     const auto heading = [&page](std::string_view title, std::string_view kind) {
         page.open("th").attribute("scope", "col").attribute("class", kind).text(title).close();
