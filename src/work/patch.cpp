@@ -9,10 +9,10 @@
 namespace kalco {
 namespace {
 
-/// What a patch's bytes for the check fields of a sector are worth.
-struct SectorState {
+/// A sector before the patch.
+struct SectorBefore {
     SectorKind kind = SectorKind::other;
-    bool renewed = false;  ///< The fields fit: they follow the edit, whatever the patch says.
+    std::string checks;  ///< The bytes of its check fields when they all fit, else none.
 };
 
 class PatchRun {
@@ -24,56 +24,78 @@ public:
         const std::string_view target = back ? record.old_bytes : record.new_bytes;
         const std::string_view expected = back ? record.new_bytes : record.old_bytes;
         const auto position = static_cast<ImagePos>(record.offset) + 1;
-        std::string bytes = image_.read(position, static_cast<int>(target.size()));
+        const std::string found = image_.read(position, static_cast<int>(target.size()));
         for (std::size_t i = 0; i < target.size(); ++i) {
             const std::uint64_t offset = record.offset + i;
-            const SectorState& sector = state_of(offset / sector_bytes);
-            const auto place = static_cast<std::size_t>(offset % sector_bytes);
-            if (is_check_byte(sector.kind, place)) {
-                if (!sector.renewed) bytes[i] = target[i];
-                continue;
-            }
-            if (!expected.empty() && bytes[i] != expected[i] && bytes[i] != target[i]) {
-                add_conflict(static_cast<ImagePos>(offset) + 1, expected[i], bytes[i]);
-            }
-            bytes[i] = target[i];
+            const SectorBefore& sector = sector_before(offset / sector_bytes);
+            if (expected.empty() || found[i] == expected[i] || found[i] == target[i]) continue;
+            if (is_check_byte(sector.kind, static_cast<std::size_t>(offset % sector_bytes))) continue;
+            doubts_.push_back({static_cast<ImagePos>(offset) + 1, expected[i], found[i]});
         }
-        image_.write(position, bytes);
+        image_.write(position, target);
     }
 
-    std::vector<PatchConflict> take_conflicts() {
-        std::sort(conflicts_.begin(), conflicts_.end(),
-                  [](const PatchConflict& a, const PatchConflict& b) { return a.position < b.position; });
-        return std::move(conflicts_);
+    /// To be called when all records are written.
+    std::vector<PatchConflict> finish() {
+        for (const auto& [number, sector] : sectors_) put_checks_back(static_cast<std::int64_t>(number), sector);
+        std::sort(doubts_.begin(), doubts_.end(), [](const Doubt& a, const Doubt& b) { return a.place < b.place; });
+        std::vector<PatchConflict> conflicts;
+        for (const Doubt& doubt : doubts_) {
+            // Several records may stand for one byte: what is there already counts for them all.
+            if (image_.read(doubt.place, 1).front() == doubt.found) continue;
+            const bool joins =
+                !conflicts.empty() &&
+                conflicts.back().position + static_cast<ImagePos>(conflicts.back().found.size()) == doubt.place;
+            if (!joins) conflicts.push_back({doubt.place, {}, {}});
+            conflicts.back().expected += doubt.expected;
+            conflicts.back().found += doubt.found;
+        }
+        return conflicts;
     }
 
 private:
-    const SectorState& state_of(std::uint64_t number) {
-        const auto [found, added] = states_.try_emplace(number);
-        if (added) found->second = read_state(static_cast<std::int64_t>(number));
-        return found->second;
+    /// A byte that is neither the old nor the new one of a record.
+    struct Doubt {
+        ImagePos place;
+        char expected;
+        char found;
+    };
+
+    const SectorBefore& sector_before(std::uint64_t number) {
+        const auto [place, added] = sectors_.try_emplace(number);
+        if (added) {
+            const std::string bytes = image_.read(static_cast<ImagePos>(number) * sector_bytes + 1, sector_bytes);
+            SectorBefore& sector = place->second;
+            sector.kind = kind_of(view_of(bytes));
+            const bool fits = checks_all_fit(view_of(bytes));
+            for (std::size_t i = 0; fits && i < bytes.size(); ++i) {
+                if (is_check_byte(sector.kind, i)) sector.checks += bytes[i];
+            }
+        }
+        return place->second;
     }
 
-    SectorState read_state(std::int64_t number) const {
-        const std::string bytes = image_.read(number * sector_bytes + 1, sector_bytes);
-        const std::span<const std::uint8_t> sector(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size());
-        const SectorView view = sector.first<sector_bytes>();
-        return {kind_of(view), checks_all_fit(view)};
+    /// A sector that becomes one of another kind has its check fields elsewhere: it keeps what the patch has for them.
+    void put_checks_back(std::int64_t number, const SectorBefore& before) {
+        const ImagePos start = number * sector_bytes + 1;
+        if (before.checks.empty()) return;
+        std::string bytes = image_.read(start, sector_bytes);
+        if (kind_of(view_of(bytes)) != before.kind) return;
+        std::size_t check = 0;
+        for (std::size_t i = 0; i < bytes.size(); ++i) {
+            if (is_check_byte(before.kind, i)) bytes[i] = before.checks[check++];
+        }
+        image_.write(start, bytes);
     }
 
-    void add_conflict(ImagePos position, char expected, char found) {
-        const bool joins =
-            !conflicts_.empty() &&
-            conflicts_.back().position + static_cast<ImagePos>(conflicts_.back().found.size()) == position;
-        if (!joins) conflicts_.push_back({position, {}, {}});
-        conflicts_.back().expected += expected;
-        conflicts_.back().found += found;
+    static SectorView view_of(std::string_view bytes) {
+        return std::span(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size()).first<sector_bytes>();
     }
 
     Image& image_;
     PatchWay way_;
-    std::map<std::uint64_t, SectorState> states_;
-    std::vector<PatchConflict> conflicts_;
+    std::map<std::uint64_t, SectorBefore> sectors_;
+    std::vector<Doubt> doubts_;
 };
 
 void check_range(const Image& image, const PpfPatch& patch) {
@@ -91,12 +113,13 @@ bool block_fits(const Image& image, const PpfPatch& patch) {
     if (!patch.block()) return true;
     const std::uint64_t start = ppf_block_offset(patch.image());
     std::string block = image.read(static_cast<ImagePos>(start) + 1, ppf_block_bytes);
-    const auto put_back = [&block, start](const PpfRecord& record) {
-        for (std::size_t i = 0; i < record.old_bytes.size(); ++i) {
+    const auto put_back = [&](const PpfRecord& record) {
+        for (std::size_t i = 0; i < record.new_bytes.size(); ++i) {
             const std::uint64_t offset = record.offset + i;
             if (offset < start || offset >= start + ppf_block_bytes) continue;
-            char& byte = block[static_cast<std::size_t>(offset - start)];
-            if (byte == record.new_bytes[i]) byte = record.old_bytes[i];
+            const auto place = static_cast<std::size_t>(offset - start);
+            if (block[place] != record.new_bytes[i]) continue;
+            block[place] = record.old_bytes.empty() ? (*patch.block())[place] : record.old_bytes[i];
         }
     };
     std::for_each(patch.records().rbegin(), patch.records().rend(), put_back);
@@ -113,7 +136,7 @@ std::vector<PatchConflict> write_patch(Image& image, const PpfPatch& patch, Patc
     } else {
         std::for_each(records.rbegin(), records.rend(), [&run](const PpfRecord& record) { run.write(record); });
     }
-    return run.take_conflicts();
+    return run.finish();
 }
 
 }  // namespace kalco

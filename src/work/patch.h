@@ -21,14 +21,15 @@ struct PatchConflict {
 
 /// Whether the block that the patch was made over is the image's: for applying, the one of the image as it is, for
 /// taking back, the one of the image as it will be. What the patch itself has changed there already counts as its old
-/// bytes. True when the patch holds no block.
+/// bytes, or as fitting where those are not known. True when the patch holds no block.
 bool block_fits(const Image& image, const PpfPatch& patch);
 
 /// Writes the patch into the image without a commit. Where the old bytes are known, every byte must be the old or the
-/// new one; what is neither is given back in rising order, and the image is for the caller to discard then.
+/// new one; what is neither is given back in rising order, and the image is for the caller to discard then. A byte that
+/// the records as a whole leave as it is is never a conflict.
 ///
 /// EDC and parities are never a conflict. In a sector whose check fields all fit they stay as they are, for the caller
-/// to renew; elsewhere the patch's bytes are written.
+/// to renew, unless the patch makes a sector of another kind of it; elsewhere the patch's bytes are written.
 ///
 /// Throws PpfError when a record lies beyond the image's end, and when a patch without old bytes is to be taken back.
 std::vector<PatchConflict> write_patch(Image& image, const PpfPatch& patch, PatchWay way);

@@ -9,6 +9,7 @@
 #include "disc/image/sector.h"
 #include "disc/image/sector_layout.h"
 #include "support/memory_storage.h"
+#include "support/sectors.h"
 #include "work/patch_make.h"
 
 namespace kalco::test {
@@ -200,6 +201,64 @@ TEST_F(PatchTest, FitsAlsoWhenItHasChangedTheBlockItself) {
     std::string other = edited;
     set(other, 0x9320 + 100, "o");
     EXPECT_FALSE(Patched(other).fits(file));
+}
+
+TEST_F(PatchTest, FitsAlsoWhereItsBlockWasChangedAndTheOldBytesAreNotKnown) {
+    std::string file = "PPF20\1" + std::string(50, ' ') + std::string(4, '\0') + original.substr(0x9320, 1024);
+    file += std::string("\x2A\x93\0\0\3abc", 8);
+    EXPECT_TRUE(Patched(original).fits(file));
+    set(edited, 0x9320 + 11, "abc");
+    EXPECT_TRUE(Patched(edited).fits(file));
+    set(edited, 0x9320 + 11, "abd");
+    EXPECT_FALSE(Patched(edited).fits(file));
+}
+
+// Other writers may come back to a byte: together their records lead from the first old byte to the last new one.
+TEST_F(PatchTest, TakesRecordsThatStandForOneByteTogether) {
+    const ImagePos position = user_position(20, 5);
+    const std::string old = original.substr(static_cast<std::size_t>(position - 1), 2);
+    std::string file("PPF30\2", 6);
+    file += std::string(50, ' ') + std::string("\0\0\1\0", 4);
+    const auto add = [&file](ImagePos at, const std::string& now, const std::string& before) {
+        for (int shift = 0; shift < 64; shift += 8) file += static_cast<char>((at - 1) >> shift & 0xFF);
+        file += static_cast<char>(now.size()) + now + before;
+    };
+    std::string first = old;
+    for (char& byte : first) byte = static_cast<char>(byte + 1);
+    std::string last = old;
+    for (char& byte : last) byte = static_cast<char>(byte + 2);
+    add(position, first, old);
+    add(position, last, first);
+    set(edited, position, last);
+    for (const std::string& state : {original, edited}) {
+        Patched there(state);
+        EXPECT_TRUE(there.write(file).empty());
+        EXPECT_EQ(there.bytes(), edited);
+        Patched back(state);
+        EXPECT_TRUE(back.write(file, PatchWay::take_back).empty());
+        EXPECT_EQ(back.bytes(), original);
+    }
+    std::string other = original;
+    set(other, position + 1, std::string(1, static_cast<char>(old[1] + 3)));
+    const auto conflicts = Patched(other).write(file);
+    ASSERT_FALSE(conflicts.empty());
+    EXPECT_EQ(conflicts.front().position, position + 1);
+    EXPECT_EQ(conflicts.front().expected, old.substr(1));
+}
+
+// Where one kind has its checks another one has data.
+TEST_F(PatchTest, MakesASectorOfAnotherKind) {
+    std::mt19937 random(5);
+    RawSector sector = random_sector(SectorKind::form2, random);
+    std::copy_n(original.begin() + 20 * sector_bytes, user_start - 8, sector.begin());
+    edited.replace(20 * sector_bytes, sector_bytes, as_text(sector));
+    renew(edited, 20);
+    const std::string file = patch_between(original, edited);
+    Patched image(original);
+    EXPECT_TRUE(image.write(file).empty());
+    EXPECT_EQ(image.bytes(), edited);
+    EXPECT_TRUE(image.write(file, PatchWay::take_back).empty());
+    EXPECT_EQ(image.bytes(), original);
 }
 
 TEST_F(PatchTest, RefusesARecordBeyondTheImage) {
