@@ -4,6 +4,7 @@
 
 #include "ctl/table_json.h"
 #include "disc/codec/latin1.h"
+#include "disc/codec/utf8.h"
 #include "work/sheets/known_bits.h"
 #include "work/sheets/sheets.h"
 
@@ -59,8 +60,21 @@ Range range_of(const PpfPatch& patch) {
     return range;
 }
 
-/// Bytes that others have written: shown as Latin-1, without control characters.
+/// UTF-8 with a blank for every control character.
+std::string without_controls(std::string_view utf8) {
+    std::string clean;
+    while (!utf8.empty()) {
+        const Utf8Step step = first_character(utf8);
+        const bool control = step.character < 0x20 || (step.character >= 0x7F && step.character < 0xA0);
+        clean += control ? " " : utf8.substr(0, step.bytes);
+        utf8.remove_prefix(step.bytes);
+    }
+    return clean;
+}
+
+/// Bytes that others have written: UTF-8 or, where they are none, Latin-1, without control characters.
 std::string printable(std::string_view text) {
+    if (!broken_utf8(text)) return without_controls(text);
     std::string clean(text);
     std::replace_if(
         clean.begin(), clean.end(),

@@ -5,6 +5,7 @@
 #include <stdexcept>
 #include <utility>
 
+#include "disc/codec/utf8.h"
 #include "disc/image/position.h"
 #include "work/ppf.h"
 
@@ -28,12 +29,21 @@ std::size_t room_at(std::uint64_t offset) {
     return std::min(ppf_record_most_bytes, to_sector_end);
 }
 
+/// Without the first bytes of a character that was cut.
+std::string_view whole_characters(std::string_view text) {
+    const auto broken = broken_utf8(text);
+    constexpr std::size_t longest_cut = 3;
+    const bool cut =
+        broken && text.size() - *broken <= longest_cut && static_cast<unsigned char>(text[*broken]) >= 0xC0;
+    return cut ? text.substr(0, *broken) : text;
+}
+
 }  // namespace
 
 PpfWriter::PpfWriter(std::string_view description, std::string_view block, Sink sink) : sink_(std::move(sink)) {
     if (block.size() != ppf_block_bytes) throw std::invalid_argument("the checked block has 1024 bytes");
     head_ = "PPF30\x02";
-    head_ += description.substr(0, ppf_description_bytes);
+    head_ += whole_characters(description.substr(0, ppf_description_bytes));
     head_.resize(6 + ppf_description_bytes, ' ');
     head_ += std::string_view("\0\1\1\0", 4);
     head_ += block;

@@ -209,6 +209,15 @@ TEST(PpfWriter, CutsTheDescription) {
     EXPECT_EQ(patch.description(), std::string(50, 'd'));
 }
 
+TEST(PpfWriter, CutsTheDescriptionInFrontOfACharacter) {
+    const std::string start(48, 'd');
+    EXPECT_EQ(PpfPatch(written(start + "\u00E9", "a", "b")).description(), start + "\u00E9");
+    EXPECT_EQ(PpfPatch(written(start + "d\u00E9", "a", "b")).description(), start + "d");
+    EXPECT_EQ(PpfPatch(written(start + "\u20ACd", "a", "b")).description(), start);
+    EXPECT_EQ(PpfPatch(written(start + "\xE9\xE9\xE9", "a", "b")).description(), start);
+    EXPECT_EQ(PpfPatch(written("\xE9 Latin-1", "a", "b")).description(), "\xE9 Latin-1");
+}
+
 TEST(PpfWriter, LeavesEqualBytesOutOfTheRecords) {
     const PpfPatch patch(written("", "aaaaa", "bbabb"));
     expect_records(patch, {{0, "bb", "aa"}, {3, "bb", "aa"}});
