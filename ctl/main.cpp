@@ -70,7 +70,9 @@ private:
         try {
             return entry.run();
         } catch (const std::exception& failure) {
-            ctl::complain(entry.command->get_name(), failure.what());
+            std::string name = entry.command->get_name();
+            for (const CLI::App* below : entry.command->get_subcommands()) name += ' ' + below->get_name();
+            ctl::complain(name, failure.what());
             return ctl::trouble;
         }
     }

@@ -75,7 +75,10 @@ Tables tables_of_file(std::string_view bytes) {
     constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
     const std::string_view text = bytes.substr(bytes.starts_with(byte_order_mark) ? byte_order_mark.size() : 0);
     const auto first = text.find_first_not_of(" \t\r\n");
-    if (first != std::string_view::npos && text[first] == '{') return tables_of_json(bytes);
+    if (first != std::string_view::npos && text[first] == '{') return tables_of_json(text);
+    if (first != std::string_view::npos && text[first] == '[') {
+        throw TableError(0, {}, "a list in brackets; JSON is one object a line here");
+    }
     if (first != std::string_view::npos && text[first] == '<') return tables_of_fods(std::string(bytes));
     return {table_of_csv(bytes)};
 }

@@ -63,7 +63,10 @@ private:
         if (sheet_name_.empty()) sheet_name_ = players_sheet;
         const int header_row = table.columns.empty() ? 1 : table.columns.front().row;
         sheet_ = sheet_named(sheet_name_);
-        if (sheet_ == nullptr) return complain(header_row, "sheet", "unknown sheet " + quoted(sheet_name_));
+        if (sheet_ == nullptr) {
+            plan_.mistakes.push_back({header_row, "sheet", "unknown sheet " + quoted(sheet_name_)});
+            return;
+        }
         const std::vector<Target> targets = targets_of(table);
         const auto id = std::find_if(targets.begin(), targets.end(), [](const Target& each) { return each.is_id; });
         if (id == targets.end()) return complain(header_row, std::string(id_column), "the column is missing");

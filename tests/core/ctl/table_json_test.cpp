@@ -100,6 +100,8 @@ TEST(TableFormats, AreToldByTheirBytes) {
     EXPECT_EQ(tables_of_file(" \n{\"id\":\"m001\",\"age\":20}\n")[0].rows[0].cells, (Cells{"m001", "20"}));
     EXPECT_EQ(tables_of_file("id,age\nm001,20\n")[0].rows[0].cells, (Cells{"m001", "20"}));
     EXPECT_EQ(tables_of_file("")[0].columns.size(), 0U);
+    EXPECT_EQ(tables_of_file("\uFEFF{\"id\":\"m001\"}")[0].rows[0].cells, (Cells{"m001"}));
+    EXPECT_THROW(tables_of_file("[{\"id\":\"m001\"}]"), TableError);
     EXPECT_THROW(tables_of_file("PK\x03\x04zip"), TableError);
     EXPECT_THROW(tables_of_file("\xD0\xCF\x11\xE0xls"), TableError);
 }

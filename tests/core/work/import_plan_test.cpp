@@ -179,7 +179,7 @@ TEST_F(Import, TakesTheNamedSheet) {
     EXPECT_EQ(changes(plan_import(disc, tables, {"teams"})), Lines{"t00 short: AAA -> BBB"});
     EXPECT_EQ(mistakes(plan_import(disc, tables)), Lines{"2:speed: \"99\": out of range: 12 to 19 (sheet players)"});
     tables[1].sheet = "notes";
-    EXPECT_EQ(mistakes(plan_import(disc, tables)), Lines{"1:sheet: unknown sheet \"notes\" (sheet notes)"});
+    EXPECT_EQ(mistakes(plan_import(disc, tables)), Lines{"1:sheet: unknown sheet \"notes\""});
 }
 
 TEST_F(Import, TakesOneIdOnceInAllTables) {
