@@ -12,15 +12,11 @@ bool coin(std::mt19937& chance) {
 
 }  // namespace
 
-void FakeFiles::put(const std::string& name, std::string bytes) {
+void FakeFiles::put(const std::string& name, const PagedBytes& bytes) {
     const auto file = std::make_shared<File>();
     file->number = next_number_++;
-    file->now = file->on_disk = PagedBytes(std::move(bytes));
+    file->now = file->on_disk = bytes;
     names_[name] = names_on_disk_[name] = file;
-}
-
-std::string FakeFiles::bytes(const std::string& name) const {
-    return names_.at(name)->now.all();
 }
 
 void FakeFiles::erase(const std::string& name) {
@@ -31,6 +27,23 @@ void FakeFiles::erase(const std::string& name) {
 void FakeFiles::rename(const std::string& from, const std::string& to) {
     names_[to] = names_on_disk_[to] = names_.at(from);
     erase(from);
+}
+
+FakeFiles FakeFiles::copy() const {
+    FakeFiles result;
+    std::map<FilePointer, FilePointer> copies;
+    const auto copy_names = [&copies](const auto& from, auto& to) {
+        for (const auto& [name, file] : from) {
+            FilePointer& copied = copies[file];
+            if (!copied) copied = std::make_shared<File>(*file);
+            to[name] = copied;
+        }
+    };
+    copy_names(names_, result.names_);
+    copy_names(names_on_disk_, result.names_on_disk_);
+    result.next_number_ = next_number_;
+    result.directory_protected_ = directory_protected_;
+    return result;
 }
 
 void FakeFiles::plan(int call, CallFault fault) {

@@ -33,9 +33,16 @@ struct CallFault {
 /// there, and the next one succeeds without it, as on real systems.
 class FakeFiles final : public FileSystem {
 public:
+    FakeFiles() = default;
+    FakeFiles(FakeFiles&&) = default;
+    FakeFiles& operator=(FakeFiles&&) = default;
+
     // For a test's hands; these are no calls.
-    void put(const std::string& name, std::string bytes);
-    std::string bytes(const std::string& name) const;
+    void put(const std::string& name, std::string bytes) { put(name, PagedBytes(std::move(bytes))); }
+    void put(const std::string& name, const PagedBytes& bytes);
+    std::string bytes(const std::string& name) const { return contents(name).all(); }
+    /// Costs what was changed since the file was put there.
+    const PagedBytes& contents(const std::string& name) const { return names_.at(name)->now; }
     bool has(const std::string& name) const { return names_.contains(name); }
     std::size_t count() const { return names_.size(); }
     void erase(const std::string& name);
@@ -48,6 +55,9 @@ public:
     void plan(int call, CallFault fault = {});
     /// What was called since the plan, one word each, and on which file.
     const std::vector<std::string>& log() const { return log_; }
+
+    /// The same files, which go their own way from here on. Nothing may be open.
+    FakeFiles copy() const;
 
     /// The process ends: descriptors and locks go, what was written stays.
     void end_process();

@@ -36,6 +36,19 @@ public:
         }
         return result;
     }
+    /// A byte of copies that share their text is looked at only where one of them has changed.
+    friend bool operator==(const PagedBytes& one, const PagedBytes& other) {
+        if (one.size_ != other.size_) return false;
+        if (one.base_ != other.base_ || one.base_size_ != other.base_size_) return one.all() == other.all();
+        const auto same_pages = [](const PagedBytes& changed, const PagedBytes& than) {
+            return std::all_of(changed.pages_.begin(), changed.pages_.end(), [&](const auto& page) {
+                const auto found = than.pages_.find(page.first);
+                return page.second == (found != than.pages_.end() ? found->second : than.base_page(page.first));
+            });
+        };
+        return same_pages(one, other) && same_pages(other, one);
+    }
+
     std::string all() const { return read(0, static_cast<std::size_t>(size_)); }
 
     void write(std::int64_t offset, std::string_view bytes) {

@@ -1,9 +1,9 @@
 #pragma once
 
+#include <array>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <stdexcept>
 #include <string>
 
@@ -33,7 +33,13 @@ public:
     std::string read(const std::string& below) const {
         std::ifstream file(path(below), std::ios::binary);
         if (!file) throw std::runtime_error("no such file: " + below);
-        return {std::istreambuf_iterator<char>(file), {}};
+        std::string bytes;
+        // Of a device or a pipe the size is not known before.
+        std::array<char, std::size_t{1} << 16> part{};
+        while (file.read(part.data(), part.size()) || file.gcount() > 0) {
+            bytes.append(part.data(), static_cast<std::size_t>(file.gcount()));
+        }
+        return bytes;
     }
     bool has(const std::string& below) const { return std::filesystem::exists(path(below)); }
 

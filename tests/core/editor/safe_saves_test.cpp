@@ -19,6 +19,7 @@ using test::CallFault;
 using test::Desk;
 using test::EverySave;
 using test::FakeFiles;
+using test::PagedBytes;
 
 constexpr auto image_name = "disc.bin";
 constexpr auto journal_name = "disc.bin.kalco-journal";
@@ -34,8 +35,8 @@ const test::TemporaryHome& home() {
 
 /// How one save went.
 struct Outcome {
-    std::string before;
-    std::string after;
+    PagedBytes before;
+    PagedBytes after;
     bool told_saved = false;
     bool killed = false;
     int error = 0;
@@ -45,12 +46,12 @@ struct Outcome {
 
 /// Starts the editor on a full image, prepares the save and makes it, with a fault at one of its calls.
 Outcome run(FakeFiles& files, const EverySave& save, int call = 0, CallFault fault = {}) {
-    static const std::string image = test::filled_image();
+    static const PagedBytes image(test::filled_image());
     files.put(image_name, image);
     Outcome outcome;
     Desk desk(home(), opener_on(files), image_name);
     save.prepare(desk);
-    outcome.before = files.bytes(image_name);
+    outcome.before = files.contents(image_name);
     files.plan(call, fault);
     try {
         save.save(desk);
@@ -66,17 +67,17 @@ Outcome run(FakeFiles& files, const EverySave& save, int call = 0, CallFault fau
         files.plan(0);
         desk.form.image.close();
     }
-    outcome.after = files.bytes(image_name);
+    outcome.after = files.contents(image_name);
     return outcome;
 }
 
 /// What the next opening finds.
-std::string next_image(FakeFiles& files) {
+PagedBytes next_image(FakeFiles& files) {
     files.end_process();
     Image image(opener_on(files));
     image.open(image_name);
     EXPECT_FALSE(files.has(journal_name));
-    return files.bytes(image_name);
+    return files.contents(image_name);
 }
 
 class EverySaveOf : public ::testing::TestWithParam<std::size_t> {
@@ -91,6 +92,7 @@ protected:
         const auto removal = std::find(log.begin(), log.end(), std::string("remove ") + journal_name) - log.begin();
         return call <= removal + 6 || call % 97 == 0;
     }
+    bool is_read(int call) const { return log[static_cast<std::size_t>(call) - 1] == "read disc.bin"; }
     std::string at(int call) const { return save.name + ", " + log[static_cast<std::size_t>(call) - 1]; }
 
     const EverySave& save = test::every_save()[GetParam()];
@@ -101,7 +103,7 @@ protected:
 INSTANTIATE_TEST_SUITE_P(Program, EverySaveOf, ::testing::Range<std::size_t>(0, test::every_save().size()));
 
 TEST_P(EverySaveOf, ChangesTheImageWithAJournal) {
-    EXPECT_NE(whole.before, whole.after);
+    EXPECT_FALSE(whole.before == whole.after);
     EXPECT_EQ(whole.error, 0);
     EXPECT_EQ(whole.told_saved, !save.stops && save.name != "undo" && save.name != "redo");
     EXPECT_EQ(std::count(log.begin(), log.end(), "sync disc.bin"), 1) << "one save";
@@ -112,15 +114,17 @@ TEST_P(EverySaveOf, IsWholeOrNotAtAllAfterAnyFailure) {
     for (int call = 1; call <= whole.calls; ++call) {
         if (!is_worth_a_fault(call)) continue;
         for (const int code : {EIO, ENOSPC}) {
+            // A read fails in one way only.
+            if (code == ENOSPC && is_read(call)) continue;
             FakeFiles files;
             const Outcome outcome = run(files, save, call, {CallFault::Kind::fails, code});
             ASSERT_TRUE(outcome.after == whole.before || outcome.after == whole.after) << at(call);
             if (outcome.told_saved) {
-                ASSERT_EQ(outcome.after, whole.after) << at(call);
+                ASSERT_TRUE(outcome.after == whole.after) << at(call);
             } else {
                 EXPECT_TRUE(outcome.error != 0 || save.fails_silently) << at(call);
             }
-            ASSERT_EQ(next_image(files), outcome.after) << at(call);
+            ASSERT_TRUE(next_image(files) == outcome.after) << at(call);
         }
     }
 }
@@ -128,12 +132,15 @@ TEST_P(EverySaveOf, IsWholeOrNotAtAllAfterAnyFailure) {
 TEST_P(EverySaveOf, IsWholeOrNotAtAllAfterAKillOrAStop) {
     std::mt19937 chance(static_cast<unsigned>(GetParam()));
     for (int call = 1; call <= whole.calls; ++call) {
-        if (!is_worth_a_fault(call) || log[static_cast<std::size_t>(call) - 1] == "read disc.bin") continue;
-        for (const bool stop : {false, true, true}) {
-            FakeFiles files;
-            run(files, save, call, {CallFault::Kind::killed_after, 0});
-            if (stop) files.stop_machine(&chance);
-            const std::string left = next_image(files);
+        if (!is_worth_a_fault(call) || is_read(call)) continue;
+        FakeFiles killed;
+        run(killed, save, call, {CallFault::Kind::killed_after, 0});
+        killed.end_process();
+        for (int stops = 0; stops < 5; ++stops) {
+            FakeFiles files = killed.copy();
+            // The first time the machine goes on.
+            if (stops > 0) files.stop_machine(&chance);
+            const PagedBytes left = next_image(files);
             ASSERT_TRUE(left == whole.before || left == whole.after) << at(call);
         }
     }
