@@ -76,7 +76,7 @@ TEST(EdcMethods, AgreeWithThePlainWayOnManyErrors) {
             EXPECT_TRUE(method.fits(part(sum, stretch))) << method.name;
             for (int round = 0; round < 200; ++round) {
                 RawSector broken = valid;
-                for (unsigned errors = random() % 20; errors > 0; --errors) {
+                for (auto errors = random() % 20; errors > 0; --errors) {
                     broken[stretch.from + random() % (stretch.end - stretch.from)] = random_byte(random);
                 }
                 EXPECT_EQ(method.fits(part(broken, stretch)), broken == valid) << method.name;
