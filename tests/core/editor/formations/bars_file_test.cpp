@@ -251,6 +251,8 @@ TEST(BarsImportOfAnyLength, TakesTheTwoEndsOfTheLine) {
             FormationTab tab;
             tab.choose(row);
             for (std::size_t length = 0; length <= 80; ++length) {
+                // Only the first answer needs them all.
+                if (answer != Answer::yes && length % 4 != 0 && length != 10 && length != 79) continue;
                 const std::string line = digits.substr(0, length);
                 tab.disc.bytes = filled_image();
                 import(tab, line + "\r\n", answer);

@@ -29,7 +29,10 @@ struct Stop {
 
 /// Moves a marker from X or Y until the arrow refuses.
 Stop run_into(CommandButton frmKalco::*arrow, int x, int y) {
-    FormationTab tab(image_with(10, record_with(5, x, y)));
+    static FormationTab tab;
+    tab.disc.bytes = image_with(10, record_with(5, x, y));
+    tab.select_tab(0);
+    tab.select_tab(kalco::tab::formations);
     tab.choose(10);
     tab.click(tab.form.lblGioc(5));
     CommandButton& button = tab.form.*arrow;
