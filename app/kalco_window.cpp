@@ -85,7 +85,10 @@ KalcoWindow::KalcoWindow(frmKalco& form) : form_(form) {
     refresh();
 }
 
-KalcoWindow::~KalcoWindow() = default;
+KalcoWindow::~KalcoWindow() {
+    // A child that goes with the focus would still be heard.
+    qApp->disconnect(this);
+}
 
 void KalcoWindow::build() {
     auto* const middle = new QWidget;

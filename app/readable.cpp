@@ -74,7 +74,9 @@ QPalette readable_palette(QPalette palette) {
     for (const auto& [ink, ground] : texts) {
         const QColor colour =
             readable(palette.color(QPalette::Disabled, ink), palette.color(QPalette::Disabled, ground));
-        palette.setColor(QPalette::Disabled, ink, colour);
+        // Fields that look as labels do stand on the window.
+        palette.setColor(QPalette::Disabled, ink,
+                         readable(colour, palette.color(QPalette::Disabled, QPalette::Window)));
     }
     for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
         // Hints stand in fields and beside them.

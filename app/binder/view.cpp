@@ -123,6 +123,10 @@ public:
             binder_.touch(model_);
             binder_.act([&, row] { second ? user::press_again(form, model_) : user::pick(form, model_, row); });
         });
+        QObject::connect(&widget_, &RowsView::confirmed, &binder, [this](int row) {
+            binder_.touch(model_);
+            binder_.act([this, row] { confirm(row); });
+        });
     }
 
 protected:
@@ -135,6 +139,13 @@ protected:
     }
 
 private:
+    void confirm(int row) {
+        frmKalco& form = binder_.form();
+        // The keyboard may have come here without an action: the list that had it was switched off.
+        const bool here = form.focused() == &model_ && model_.row() == row;
+        if (here || user::pick(form, model_, row) == user::Outcome::done) user::press_again(form, model_);
+    }
+
     std::vector<std::string> items_;
 };
 

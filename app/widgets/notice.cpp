@@ -12,6 +12,7 @@ namespace kalco::app {
 Notice::Notice(QWidget* parent) : QFrame(parent), text_(new QLabel), remedy_(new QPushButton) {
     text_->setTextFormat(Qt::PlainText);
     text_->setWordWrap(true);
+    remedy_->setObjectName(QStringLiteral("viewRemedy"));
     remedy_->setFocusPolicy(Qt::TabFocus);
     auto* const row = new QHBoxLayout(this);
     row->setContentsMargins(12, 4, 6, 4);

@@ -164,7 +164,7 @@ void RowsView::keyPressEvent(QKeyEvent* event) {
     const bool erases = property("deleteErases").toBool();
     const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
     if (erases ? key == Qt::Key_Delete : enter) {
-        if (row() >= 0) Q_EMIT pressed_again(row());
+        if (row() >= 0) Q_EMIT confirmed(row());
         return;
     }
     if (enter) return;

@@ -53,8 +53,10 @@ public:
 
 Q_SIGNALS:
     void picked(int row);
-    /// The second press of a double click, Enter or, where that erases, Delete.
+    /// The second press of a double click.
     void pressed_again(int row);
+    /// Enter or, where that erases, Delete: a double click by the keyboard.
+    void confirmed(int row);
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;

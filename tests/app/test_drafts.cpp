@@ -106,7 +106,7 @@ private Q_SLOTS:
     void names_that_the_save_of_a_player_reads_again_are_told() {
         choose_player(10, 3);
         t_->type(form().txtSqShort, QStringLiteral("ITL"));
-        pick(form().cboVel, 2);
+        pick(form().cboVel, form().cboVel.row() == 2 ? 0 : 2);
         t_->click(form().cmdSaveCar);
         QVERIFY(status().startsWith(QStringLiteral("Salvato: giocatore")));
         QVERIFY(status().endsWith(QStringLiteral("Nomi di Italy non salvati: sigla ITA→ITL")));

@@ -3,6 +3,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QScrollArea>
+#include <QTabBar>
 #include <QtTest>
 
 #include "app/support/test_window.h"
@@ -40,6 +41,8 @@ private Q_SLOTS:
                                       qobject_cast<QAbstractButton*>(widget) != nullptr ||
                                       qobject_cast<QGroupBox*>(widget) != nullptr || t.binder().control_of(widget);
                 if (!has_text || !widget->isVisible() || widget->objectName() == QStringLiteral("viewPath")) continue;
+                // The arrows of a tab bar that is too narrow are as small as it.
+                if (qobject_cast<QTabBar*>(widget->parentWidget()) != nullptr) continue;
                 const QSize needed = widget->minimumSizeHint();
                 const std::string where = std::to_string(tab) + ' ' + widget->objectName().toStdString();
                 QVERIFY2(widget->width() >= needed.width() && widget->height() >= needed.height(), where.c_str());
@@ -64,6 +67,9 @@ private Q_SLOTS:
     void lists_grow_and_fields_do_not() {
         test::prepare_application();
         test::TestWindow t(home_);
+        // More than the page needs, on whatever screen.
+        t.window.resize(1120, 1000);
+        QApplication::processEvents();
         const int list = t.widget(t.form().listDat).height();
         const int field = t.widget(t.form().txtName).height();
         const int combo = t.widget(t.form().cboRuolo).height();

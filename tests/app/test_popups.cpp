@@ -86,6 +86,7 @@ private Q_SLOTS:
             }
             QVERIFY2(drawn >= combo.count() - 1, pattern);
             // The drawing stands left of the text: the row's left end is not plain.
+            combo.view()->scrollToTop();
             const QRect row = combo.view()->visualRect(combo.view()->model()->index(1, 0));
             const QImage shown =
                 combo.view()->viewport()->grab(QRect(row.topLeft(), QSize(34, row.height()))).toImage();

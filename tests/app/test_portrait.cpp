@@ -44,7 +44,7 @@ private Q_SLOTS:
 private:
     static constexpr QPoint cheek{66, 88};
     static constexpr QPoint crown{60, 30};
-    static constexpr QPoint chin{66, 112};
+    static constexpr QPoint chin{75, 112};
 
     static QColor colour(std::string_view tone) { return QColor(QString::fromLatin1(tone.data(), 7)); }
 

@@ -4,6 +4,8 @@
 #include <QPushButton>
 #include <QTimer>
 #include <QtTest>
+#include <functional>
+#include <memory>
 #include <new>
 #include <stdexcept>
 
@@ -29,6 +31,18 @@ class TestProgram : public QObject {
 private Q_SLOTS:
     void initTestCase() { app::prepare_application(); }
 
+    void init() {
+        // A step that fails leaves a dialog that nobody answers.
+        constexpr int patience = 60000;  // Milliseconds.
+        guard_ = std::make_unique<QTimer>();
+        guard_->callOnTimeout([] {
+            if (QWidget* const asked = QApplication::activeModalWidget()) asked->close();
+            QCoreApplication::exit(unanswered);
+        });
+        guard_->start(patience);
+    }
+    void cleanup() { guard_.reset(); }
+
     void cancelling_the_first_dialog_ends_it_with_0() {
         app::Program program;
         cancel_next_dialog();
@@ -40,7 +54,7 @@ private Q_SLOTS:
         const test::DemoHome home;
         app::Program program;
         choose_next(home);
-        QTimer::singleShot(after_start, &program.window(), [&program] {
+        when_started(program, [&program] {
             QVERIFY(program.window().isVisible());
             program.window().close();
         });
@@ -54,7 +68,7 @@ private Q_SLOTS:
         app::Program program;
         choose_next(home);
         QString text;
-        QTimer::singleShot(after_start, this, [&text] { text = press_enter_in_box(); });
+        on_box([&text](QMessageBox& box) { text = press_enter(box); });
         QCOMPARE(program.run(), 1);
         QCOMPARE(text, QStringLiteral("Accesso negato, Immagine CD già aperta"));
         QVERIFY(!program.window().isVisible());
@@ -67,8 +81,8 @@ private Q_SLOTS:
         form.cmdNew.click = [] { throw RuntimeError(error::type_mismatch); };
         choose_next(home);
         QString text;
-        QTimer::singleShot(after_start, &program.window(), [&] {
-            QTimer::singleShot(0, &program.window(), [&text] { text = press_enter_in_box(); });
+        when_started(program, [&] {
+            on_box([&text](QMessageBox& box) { text = press_enter(box); });
             QTest::mouseClick(program.window().binder().widget_of(form.cmdNew), Qt::LeftButton);
         });
         QCOMPARE(program.run(), 1);
@@ -94,8 +108,8 @@ private Q_SLOTS:
             form.cmdNew.click = [&failure = failure] { std::rethrow_exception(failure); };
             choose_next(home);
             QString text;
-            QTimer::singleShot(after_start, &program.window(), [&] {
-                QTimer::singleShot(0, &program.window(), [&text] { text = press_enter_in_box(); });
+            when_started(program, [&] {
+                on_box([&text](QMessageBox& box) { text = press_enter(box); });
                 QTest::mouseClick(program.window().binder().widget_of(form.cmdNew), Qt::LeftButton);
             });
             QCOMPARE(program.run(), 1);
@@ -110,8 +124,8 @@ private Q_SLOTS:
         application().on_failure = [&program](const std::exception_ptr& failure) { program.fail(failure); };
         choose_next(home);
         QString text;
-        QTimer::singleShot(after_start, &program.window(), [&] {
-            QTimer::singleShot(0, &program.window(), [&text] { text = press_enter_in_box(); });
+        when_started(program, [&] {
+            on_box([&text](QMessageBox& box) { text = press_enter(box); });
             QTimer::singleShot(0, &program.window(), [] { throw std::bad_alloc(); });
         });
         QCOMPARE(program.run(), 1);
@@ -127,7 +141,7 @@ private Q_SLOTS:
         app::KalcoWindow window(editor.form);
         platform.choose_next(QString::fromStdString(home.image()));
         QString text;
-        QTimer::singleShot(0, this, [&text] { text = press_enter_in_box(); });
+        on_box([&text](QMessageBox& box) { text = press_enter(box); });
         window.start();
         QCOMPARE(text, QStringLiteral("Impossibile creare la cartella\n/dev/null/Export"));
         // The opening goes on as far as it did without the box.
@@ -143,14 +157,14 @@ private Q_SLOTS:
         frmKalco& form = program.editor().form;
         choose_next(home);
         QStringList texts;
-        QTimer::singleShot(after_start, &program.window(), [&] {
+        when_started(program, [&] {
             app::Binder& binder = program.window().binder();
             cancel_next_dialog();
             QTest::mouseClick(binder.widget_of(form.cmdOpen), Qt::LeftButton);
             binder.act([&form] { user::pick(form, form.cboSeqSQ, 3); });
-            QTimer::singleShot(0, &program.window(), [&] {
-                QTimer::singleShot(0, &program.window(), [&] { texts << press_enter_in_box(); });
-                texts << press_enter_in_box();
+            on_box([&texts](QMessageBox& box) {
+                texts << press_enter(box);
+                on_box([&texts](QMessageBox& next) { texts << press_enter(next); });
             });
             QTest::mouseClick(binder.widget_of(form.cmdSaveCar), Qt::LeftButton);
         });
@@ -164,7 +178,7 @@ private Q_SLOTS:
         const test::DemoHome home;
         app::Program program;
         program.open_at_start(QString::fromStdString(home.image()));
-        QTimer::singleShot(after_start, &program.window(), [&] {
+        when_started(program, [&] {
             QVERIFY(QApplication::activeModalWidget() == nullptr);
             QCOMPARE(program.editor().form.ImagePath, home.image());
             program.window().close();
@@ -176,7 +190,7 @@ private Q_SLOTS:
         app::Program program;
         program.open_at_start(QStringLiteral("/nowhere/none.bin"));
         QString notice;
-        QTimer::singleShot(after_start, &program.window(), [&] {
+        when_started(program, [&] {
             notice = program.window().findChild<app::Notice*>(QStringLiteral("viewImageNotice"))->text();
             program.window().close();
         });
@@ -189,7 +203,7 @@ private Q_SLOTS:
         app::Program program;
         frmKalco& form = program.editor().form;
         choose_next(home);
-        QTimer::singleShot(after_start, &program.window(), [&] {
+        when_started(program, [&] {
             app::Binder& binder = program.window().binder();
             cancel_next_dialog();
             QTest::mouseClick(binder.widget_of(form.cmdOpen), Qt::LeftButton);
@@ -212,7 +226,7 @@ private Q_SLOTS:
         bool told_before = true;
         bool told_again = true;
         bool told_behind = false;
-        QTimer::singleShot(after_start, &program.window(), [&] {
+        when_started(program, [&] {
             app::Binder& binder = program.window().binder();
             const auto* const line = program.window().findChild<app::Notice*>(QStringLiteral("viewPending"));
             binder.act([&form] { user::pick(form, form.cboSeqSQ, 3); });
@@ -235,7 +249,7 @@ private Q_SLOTS:
         const test::DemoHome other;
         app::Program program;
         choose_next(home);
-        QTimer::singleShot(after_start, &program.window(), [&] {
+        when_started(program, [&] {
             Q_EMIT program.window().image_wanted(QString::fromStdString(other.image()));
             QCOMPARE(program.editor().form.ImagePath, other.image());
             QVERIFY(QApplication::activeModalWidget() == nullptr);
@@ -247,9 +261,33 @@ private Q_SLOTS:
 private:
     static app::Application& application() { return *dynamic_cast<app::Application*>(qApp); }
     static inline QString told_;
+    static constexpr int unanswered = 99;
+    std::unique_ptr<QTimer> guard_;
 
-    /// Milliseconds, more than the first dialog needs to be answered.
-    static constexpr int after_start = 300;
+    /// Looks, from now on, until the event loop comes to where the step can be made.
+    static void when(QObject& holder, const std::function<bool()>& ready, const std::function<void()>& step) {
+        auto* const look = new QTimer(&holder);
+        connect(look, &QTimer::timeout, look, [look, ready, step] {
+            if (!ready()) return;
+            look->stop();
+            look->deleteLater();
+            step();
+        });
+        constexpr int interval = 5;  // Milliseconds.
+        look->start(interval);
+    }
+
+    static void when_started(app::Program& program, const std::function<void()>& step) {
+        app::KalcoWindow& window = program.window();
+        when(
+            window, [&window] { return window.isVisible() && QApplication::activeModalWidget() == nullptr; }, step);
+    }
+
+    static void on_box(const std::function<void(QMessageBox&)>& step) {
+        const auto box = [] { return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()); };
+        when(
+            *qApp, [box] { return box() != nullptr; }, [box, step] { step(*box()); });
+    }
 
     static void choose_next(const test::DemoHome& home) {
         const QString path = QString::fromStdString(home.image());
@@ -270,13 +308,11 @@ private:
         });
     }
 
-    /// The text of the box that is shown; what stands below it goes to told_.
-    static QString press_enter_in_box() {
-        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        if (box == nullptr) return QStringLiteral("no box");
-        const QString text = box->text();
-        told_ = box->informativeText();
-        QTest::keyClick(box, Qt::Key_Return);
+    /// The text of the box; what stands below it goes to told_.
+    static QString press_enter(QMessageBox& box) {
+        const QString text = box.text();
+        told_ = box.informativeText();
+        QTest::keyClick(&box, Qt::Key_Return);
         return text;
     }
 };

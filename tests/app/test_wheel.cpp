@@ -5,6 +5,7 @@
 #include <QTabBar>
 #include <QTabWidget>
 #include <QWheelEvent>
+#include <QtTest/qtestspontaneevent.h>
 #include <QtTest>
 
 #include "app/support/test_window.h"
@@ -19,7 +20,9 @@ void turn_wheel(QWidget& widget, int steps) {
     const QPointF place(widget.rect().center());
     QWheelEvent event(place, widget.mapToGlobal(place), {}, QPoint(0, steps * 120), Qt::NoButton, Qt::NoModifier,
                       Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&widget, &event);
+    // As from a mouse: what a program makes up by itself is not handed on to the parents.
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    qApp->notify(&widget, &event);
 }
 
 }  // namespace
