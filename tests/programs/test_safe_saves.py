@@ -171,13 +171,14 @@ class Beside(ProgramTest):
 
     def test_a_directory_that_cannot_be_written_takes_saves_without_a_journal(self):
         before = self.disc()
-        os.mkdir(self.path("Export"))
-        os.chmod(self.path("disc.bin"), 0o666)
-        os.chmod(self.home, 0o555)
-        self.addCleanup(os.chmod, self.home, 0o755)
+        os.mkdir(self.path("closed"))
+        os.rename(self.path("disc.bin"), self.path("closed/disc.bin"))
+        os.chmod(self.path("closed/disc.bin"), 0o666)
+        os.chmod(self.path("closed"), 0o555)
+        os.chmod(self.home, 0o777)
         # Nothing is write-protected for root.
         options = {"user": 65534, "group": 65534} if os.geteuid() == 0 else {}
-        result = self.play(*OPENING, *player_save(3, 3, "Nuovo"), **options)
+        result = self.play('choose "closed/disc.bin"', "start", *player_save(3, 3, "Nuovo"), **options)
         self.assertEqual(self.messages(result), ["Salvataggio effettuato con successo"])
-        self.assertFalse(self.read("disc.bin") == before)
-        self.assertEqual(self.entries(), ["Export", "disc.bin"])
+        self.assertFalse(self.read("closed/disc.bin") == before)
+        self.assertEqual(os.listdir(self.path("closed")), ["disc.bin"])
