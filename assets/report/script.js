@@ -59,7 +59,7 @@
   document.body.classList.add('sortable');
   for (const table of document.querySelectorAll('table')) {
     for (const heading of table.tHead.rows[0].cells) {
-      /* No <button>: some browsers print those on a table's first page only. */
+      /* No button element: some browsers print those on a table's first page only. */
       const button = document.createElement('span');
       button.setAttribute('role', 'button');
       button.tabIndex = 0;
@@ -67,9 +67,10 @@
       heading.append(button);
       button.addEventListener('click', () => sort(table, heading));
       button.addEventListener('keydown', (event) => {
-        if (event.key !== 'Enter' && event.key !== ' ') return;
-        event.preventDefault();
-        sort(table, heading);
+        if (event.key === 'Enter' || event.key === ' ') {
+          event.preventDefault();
+          sort(table, heading);
+        }
       });
     }
   }
