@@ -1,4 +1,6 @@
 """patch: against a reader and writers made from the table of the format alone."""
+import fcntl
+import json
 import os
 import random
 import sys
@@ -201,12 +203,55 @@ class Apply(PatchTest):
         self.assertIn("beyond", self.refuse(2, "patch", "apply", "disc.bin", "p.ppf"))
 
 
+    def test_a_text_at_the_end_whatever_its_length_takes(self):
+        records = ppf.runs(self.original, self.edited(("speed", 19)))
+        for size in (2, 4):
+            self.write("p.ppf", ppf.write(records, self.original, description=b"x", trailer=(b" by hand ", size)))
+            self.assertIn("by hand", self.expect(0, "patch", "show", "p.ppf"))
+            self.assertIn("speed", self.expect(0, "patch", "apply", "disc.bin", "p.ppf", "--dry-run"))
+
+    def test_an_image_in_use_is_refused(self):
+        self.make(self.edited(("speed", 19)))
+        with open(self.path("disc.bin"), "r+b") as file:
+            fcntl.flock(file, fcntl.LOCK_EX)
+            for command in (("apply",), ("undo",)):
+                told = self.refuse(2, "patch", *command, "disc.bin", "p.ppf")
+                self.assertTrue(told.startswith(f"kalcoctl patch {command[0]}: disc.bin: "), told)
+            self.assertIn("speed", self.expect(0, "patch", "show", "p.ppf", "disc.bin"))
+            self.assertIn("speed", self.expect(0, "patch", "apply", "disc.bin", "p.ppf", "--dry-run"))
+
+    def test_changes_as_json(self):
+        self.make(self.edited(("speed", 19)))
+        for command in (("patch", "show", "p.ppf", "disc.bin"), ("patch", "apply", "disc.bin", "p.ppf", "--dry-run"),
+                        ("patch", "apply", "disc.bin", "p.ppf")):
+            lines = self.expect(0, *command, "--json").splitlines()
+            self.assertEqual(len(lines), 1)
+            change = json.loads(lines[0])
+            self.assertEqual((change["sheet"], change["id"], change["field"], change["new"]), ("players", "t10p03", "speed", "19"))
+        self.assertEqual(self.expect(0, "patch", "apply", "disc.bin", "p.ppf", "--json"), "")
+
+
 class Show(PatchTest):
     def test_alone(self):
         self.write("p.ppf", ppf.write([(337000, b"abc", b"xyz")], self.original, description=b"Autunno"))
         out = self.expect(0, "patch", "show", "p.ppf").splitlines()
         self.assertEqual(out, ["kind: PPF 3.0, BIN", "description: Autunno", "block check: yes", "undo: yes", "records: 1",
                                "bytes: 3", "positions: 337001 to 337003"])
+
+    def test_a_description_with_accents(self):
+        self.edited(("speed", 19))
+        self.expect(0, "patch", "make", "disc.bin", "edited.bin", "-o", "p.ppf", "--description", "Citt\u00e0 d'oggi")
+        self.assertIn("description: Citt\u00e0 d'oggi\n", self.expect(0, "patch", "show", "p.ppf"))
+        self.assertEqual(json.loads(self.expect(0, "patch", "show", "p.ppf", "--json"))["description"], "Citt\u00e0 d'oggi")
+        self.write("p.ppf", ppf.write([(337000, b"abc", b"xyz")], self.original, description="Citt\u00e0\tnuova".encode("latin-1")))
+        self.assertIn("description: Citt\u00e0 nuova\n", self.expect(0, "patch", "show", "p.ppf"))
+
+    def test_conflicts_for_an_image(self):
+        self.edited(("speed", 19))
+        self.expect(0, "patch", "make", "disc.bin", "edited.bin", "-o", "p.ppf")
+        self.edited(("speed", 12), name="disc.bin")
+        told = self.refuse(1, "patch", "show", "p.ppf", "disc.bin")
+        self.assertIn("t10p03 speed: the patch expects ", told)
 
     def test_for_an_image(self):
         image = bytearray(self.edited(("speed", 19)))

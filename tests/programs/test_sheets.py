@@ -1,8 +1,10 @@
 """export, import, diff and find: their files, lines and statuses."""
 import csv
+import fcntl
 import io
 import json
 import os
+import random
 
 from support import ProgramTest
 
@@ -166,6 +168,23 @@ class Import(SheetsTest):
         self.assertRegex(lines[0], r"^kalcoctl import: a\.csv:234:rev: .* r[0-9A-F]{8}$")
         self.assertEqual(self.command("import", "disc.bin", "a.csv", "--force"), "t10p03 name: Someone -> Other\n")
 
+    def test_tells_mistakes_of_every_kind(self):
+        self.write("a.csv", "id,team,cost,foot,name\r\nt10p03,t11,251,destro,\u0141\r\nt57p01,,5,,\r\nT10P03,,,,\r\n"
+                            "t10p03,,,,\r\n,,1,,\r\n")
+        lines = self.refusal(1, "import", "disc.bin", "a.csv")
+        self.assertEqual([line.split(": ")[1] for line in lines],
+                         ["a.csv:2:team", "a.csv:2:cost", "a.csv:2:foot", "a.csv:2:name", "a.csv:3:cost", "a.csv:4:id",
+                          "a.csv:5:id", "a.csv:6:id"])
+        self.assertIn("read-only", lines[0])
+        self.assertIn("read-only", lines[4])
+
+    def test_takes_files_as_spreadsheets_save_them(self):
+        line = f"t10p03 speed: {self.row('t10p03')['speed']} -> 19\n"
+        for text in ("\ufeffid;speed\r\nt10p03;19\r\n", "id\tspeed\nt10p03\t19\n", "speed,id\r19,t10p03\r",
+                     '"id","speed",\r\n"t10p03","19",\r\n,,\r\n'):
+            self.write("a.csv", text)
+            self.assertEqual(self.command("import", "disc.bin", "a.csv", "--dry-run"), line)
+
     def test_refuses_what_is_no_table(self):
         self.write("a.csv", b"id,name\r\nt00p01,\xd1\r\n")
         self.assertEqual(self.refusal(1, "import", "disc.bin", "a.csv"), ["kalcoctl import: a.csv:2:: not UTF-8"])
@@ -189,6 +208,123 @@ class Import(SheetsTest):
         self.assertEqual(int(self.row("t31p23")["speed"]), one)
         self.write("a.csv", f"id,speed\r\nt31p23,{old}\r\nt32p01,{other}\r\n")
         self.assertEqual(len(self.refusal(1, "import", "disc.bin", "a.csv")), 1)
+
+
+class ImportAndTheChecks(SheetsTest):
+    """Every changed sector whose EDC and parities fitted before has fitting ones again; others keep what they have."""
+
+    # A name over a sector's end would change two; these are one record and one name table entry each.
+    CELLS = "id,name,speed\r\nt10p03,Rossi,%s\r\nm100,Bianchi,%s\r\n"
+
+    def changed_sectors(self, before, after):
+        return [start // 2352 for start in range(0, len(after), 2352) if before[start:start + 2352] != after[start:start + 2352]]
+
+    def import_cells(self, speed="19", other="18"):
+        self.write("a.csv", self.CELLS % (speed, other))
+        self.command("import", "disc.bin", "a.csv")
+        return self.read("disc.bin")
+
+    def test_are_renewed(self):
+        self.command("check", "disc.bin", "--all")
+        after = self.import_cells()
+        self.assertGreater(len(self.changed_sectors(self.image, after)), 1)
+        self.command("check", "disc.bin", "--all")
+        for sector in self.changed_sectors(self.image, after):
+            start = sector * 2352
+            self.assertNotEqual(self.image[start + 2072:start + 2352], after[start + 2072:start + 2352])
+
+    def test_stay_as_they_are_where_they_did_not_fit(self):
+        good = self.import_cells()
+        sectors = self.changed_sectors(self.image, good)
+        for wrong in (2072, 2076, 2300, 2351):
+            with self.subTest(wrong):
+                before = bytearray(self.image)
+                before[sectors[0] * 2352 + wrong] ^= 0x40
+                self.write("disc.bin", bytes(before))
+                after = self.import_cells()
+                for sector in sectors:
+                    checks = slice(sector * 2352 + 2072, sector * 2352 + 2352)
+                    expected = before if sector == sectors[0] else good
+                    self.assertEqual(after[checks], expected[checks])
+                    self.assertEqual(after[sector * 2352:checks.start], good[sector * 2352:checks.start])
+
+    def test_of_a_raw_image_without_headers_are_data(self):
+        plain = bytearray(self.image)
+        for start in range(17 * 2352, len(plain), 2352):
+            plain[start:start + 12] = bytes(12)
+        self.write("disc.bin", bytes(plain))
+        after = self.import_cells()
+        for start in range(0, len(after), 2352):
+            self.assertEqual(after[start + 2072:start + 2352], plain[start + 2072:start + 2352])
+
+    def test_nothing_is_written_when_nothing_changes(self):
+        self.command("export", "disc.bin", "-o", "a.csv")
+        broken = bytearray(self.image)
+        broken[len(broken) - 1] ^= 1
+        broken[RECORDS // 2352 * 2352 + 2100] ^= 1
+        self.write("disc.bin", bytes(broken))
+        os.utime(self.path("disc.bin"), (1000, 1000))
+        self.assertEqual(self.command("import", "disc.bin", "a.csv"), "")
+        self.assertEqual(self.read("disc.bin"), bytes(broken))
+        self.assertEqual(os.stat(self.path("disc.bin")).st_mtime, 1000)
+
+
+class InUse(SheetsTest):
+    def test_is_refused_for_what_writes_and_read_by_the_rest(self):
+        self.write("a.csv", "id,speed\r\nt00p01,19\r\nt00p02,12\r\n")
+        with open(self.path("disc.bin"), "r+b") as file:
+            fcntl.flock(file, fcntl.LOCK_EX)
+            lines = self.refusal(2, "import", "disc.bin", "a.csv", "--keep-undo", "u.ppf")
+            self.assertRegex(lines[0], r"^kalcoctl import: disc\.bin: .*another program")
+            self.assertEqual(self.entries(), ["a.csv", "disc.bin"])
+            self.assertIn("speed", self.command("import", "disc.bin", "a.csv", "--dry-run"))
+            self.command("find", "disc.bin")
+            self.command("export", "disc.bin")
+            self.command("report", "disc.bin", "-o", "page.html")
+
+
+class LostOutput(SheetsTest):
+    def test_is_trouble_and_a_save_that_was_committed_stands(self):
+        self.write("a.csv", "id,name\r\nt10p03,Rossi\r\n")
+        for arguments in (("export", "disc.bin"), ("find", "disc.bin"), ("import", "disc.bin", "a.csv")):
+            with self.subTest(arguments), open("/dev/full", "wb") as full:
+                result = self.run_program(*arguments, stdout=full)
+                self.assertEqual(result.returncode, 2)
+                self.assertIn(b"standard output", result.stderr)
+        self.assertEqual(self.row("t10p03")["name"], "Rossi")
+
+
+class WholeDisc(SheetsTest):
+    """Every value that can be stored comes back: random bytes in all tables, through each format."""
+
+    def setUp(self):
+        super().setUp()
+        chance = random.Random(5)
+        image = bytearray(self.image)
+        for start in range(24 * 2352, len(image), 2352):
+            image[start + 24:start + 2072] = chance.randbytes(2048)
+        self.image = bytes(image)
+        self.write("disc.bin", self.image)
+
+    def test_of_random_bytes_comes_back_as_it_was(self):
+        for name in ("all.json", "all.fods", *(sheet + ".csv" for sheet in SHEETS)):
+            with self.subTest(name):
+                options = ["--sheet", name[:-4]] if name.endswith(".csv") else []
+                self.command("export", "disc.bin", "-o", name, *options)
+                self.assertEqual(self.command("import", "disc.bin", name, *options), "")
+                self.assertEqual(self.read("disc.bin"), self.image)
+
+    def test_of_random_bytes_becomes_another_by_their_difference(self):
+        random_image = self.image
+        for name in ("d.fods", "d.csv"):
+            self.write("old.bin", ProgramTest._demo)
+            for sheet in SHEETS:
+                arguments = ["--sheet", sheet]
+                text = self.command("diff", "old.bin", "disc.bin", "--format", name[2:], *arguments, status=1)
+                self.write(name, text)
+                self.command("import", "old.bin", name, *arguments)
+            self.assertEqual(self.command("diff", "old.bin", "disc.bin"), "")
+        self.assertEqual(self.read("disc.bin"), random_image)
 
 
 class Diff(SheetsTest):
