@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "ctl/files.h"
 #include "ctl/fods/fods_reader.h"
@@ -68,18 +69,19 @@ std::string file_of_tables(const Tables& tables, TableFormat format, CsvForm for
     }
 }
 
-Tables tables_of_file(std::string_view bytes) {
+Tables tables_of_file(std::string bytes) {
     for (const Stranger& stranger : strangers) {
         if (bytes.starts_with(stranger.beginning)) throw TableError(0, {}, std::string(stranger.what));
     }
     constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
-    const std::string_view text = bytes.substr(bytes.starts_with(byte_order_mark) ? byte_order_mark.size() : 0);
+    const std::string_view whole = bytes;
+    const std::string_view text = whole.substr(whole.starts_with(byte_order_mark) ? byte_order_mark.size() : 0);
     const auto first = text.find_first_not_of(" \t\r\n");
     if (first != std::string_view::npos && text[first] == '{') return tables_of_json(text);
     if (first != std::string_view::npos && text[first] == '[') {
         throw TableError(0, {}, "a list in brackets; JSON is one object a line here");
     }
-    if (first != std::string_view::npos && text[first] == '<') return tables_of_fods(std::string(bytes));
+    if (first != std::string_view::npos && text[first] == '<') return tables_of_fods(std::move(bytes));
     return {table_of_csv(bytes)};
 }
 

@@ -24,7 +24,7 @@ TableFormat format_of_path(std::string_view path);
 std::string file_of_tables(const Tables& tables, TableFormat format, CsvForm form = {});
 
 /// The tables of a file, whose bytes decide what it is. Throws TableError for one that is none.
-Tables tables_of_file(std::string_view bytes);
+Tables tables_of_file(std::string bytes);
 /// Reads it first, at most 64 MiB. Throws FileError when it can't be read.
 Tables read_tables(const std::string& path);
 

@@ -33,6 +33,7 @@ public:
           sheet_(sheet_named(table.sheet)) {
         for (const TableColumn& column : table.columns) {
             fields_.push_back(sheet_ == nullptr ? nullptr : sheet_->column_named(column.name));
+            styles_.push_back(style_of(fields_.size() - 1));
         }
     }
 
@@ -41,7 +42,7 @@ public:
         for (std::size_t column = 0; column < table_.columns.size(); ++column) {
             markup_.open("table:table-column")
                 .attribute("table:style-name", 'w' + std::to_string(width_of(table_, column)))
-                .attribute("table:default-cell-style-name", style_of(column))
+                .attribute("table:default-cell-style-name", styles_[column])
                 .end();
         }
         markup_.open("table:table-header-rows").open("table:table-row");
@@ -62,8 +63,10 @@ private:
         return known != nullptr && known->field->kind == FieldKind::number ? "number" : "text";
     }
 
-    Markup& open_cell(std::string_view style) {
-        return markup_.open("table:table-cell").attribute("table:style-name", style);
+    /// A cell's style, where it is not its column's.
+    Markup& open_cell(std::string_view style, std::string_view of_column = {}) {
+        markup_.open("table:table-cell");
+        return style == of_column ? markup_ : markup_.attribute("table:style-name", style);
     }
 
     void write_row(const TableRow& row) {
@@ -75,13 +78,13 @@ private:
             if (place) {
                 open_known_cell(column, *place);
             } else {
-                open_cell(style_of(column));
+                markup_.open("table:table-cell");
             }
             if (text.empty()) {
                 markup_.end();
                 continue;
             }
-            if (style_of(column) == "number" && is_number(text)) {
+            if (styles_[column] == "number" && is_number(text)) {
                 markup_.attribute("office:value-type", "float").attribute("office:value", text);
                 markup_.leaf("text:p", text);
             } else {
@@ -95,12 +98,12 @@ private:
 
     void open_known_cell(std::size_t column, int row) {
         const SheetColumn* known = fields_[column];
-        const std::string cell = table_.sheet + '.' + letters_of(column) + std::to_string(line_);
+        const CellPlace cell{table_.sheet, column, line_};
         const auto place = known == nullptr ? std::nullopt : known->place(row);
         if (!place) {
-            open_cell("fixed").attribute("table:content-validation-name", rules_.read_only(cell));
+            open_cell("fixed", styles_[column]).attribute("table:content-validation-name", rules_.read_only(cell));
         } else {
-            open_cell(style_of(column))
+            markup_.open("table:table-cell")
                 .attribute("table:content-validation-name", rules_.for_field(*known->field, *place, cell));
         }
     }
@@ -114,8 +117,9 @@ private:
     Validations& rules_;
     const Table& table_;
     const Sheet* sheet_;
-    std::vector<const SheetColumn*> fields_;
-    int line_ = 1;  ///< Of the workbook.
+    std::vector<const SheetColumn*> fields_;  ///< By column; nullptr for an unknown one.
+    std::vector<std::string_view> styles_;    ///< By column: that of its cells, but for those that a row lacks.
+    int line_ = 1;                            ///< Of the workbook.
 };
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "ctl/fods/sheet_writer.h"
 #include "disc/codec/latin1.h"
 
 namespace kalco::ctl::fods {
@@ -22,6 +23,10 @@ std::string own_reference(std::string_view cell) {
 }
 
 }  // namespace
+
+std::string CellPlace::name() const {
+    return std::string(sheet) + '.' + letters_of(column) + std::to_string(row);
+}
 
 int Validations::limit_of(const Field& field, const FieldPlace& place) {
     switch (field.kind) {
@@ -74,18 +79,19 @@ Validations::Rule Validations::rule_of(const Field& field, int limit, std::strin
     return rule;
 }
 
-std::string Validations::read_only(std::string_view cell) {
+std::string_view Validations::read_only(const CellPlace& cell) {
     static constexpr Field read_only_field{{}, FieldKind::revision};
     return for_field(read_only_field, {Piece{}, {}}, cell);
 }
 
-std::string Validations::for_field(const Field& field, const FieldPlace& place, std::string_view cell) {
+std::string_view Validations::for_field(const Field& field, const FieldPlace& place, const CellPlace& cell) {
     const int limit = limit_of(field, place);
     const auto [known, added] = places_.try_emplace({&field, limit}, rules_.size());
     if (added) {
-        Rule rule = rule_of(field, limit, cell);
+        const std::string name = cell.name();
+        Rule rule = rule_of(field, limit, name);
         rule.name = 'v' + std::to_string(rules_.size() + 1);
-        rule.cell = cell;
+        rule.cell = name;
         rules_.push_back(std::move(rule));
     }
     return rules_[known->second].name;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <map>
 #include <string>
 #include <string_view>
@@ -11,6 +12,16 @@
 
 namespace kalco::ctl::fods {
 
+/// A cell of the workbook.
+struct CellPlace {
+    std::string_view sheet;
+    std::size_t column = 0;  ///< From 0 on.
+    int row = 1;
+
+    /// "players.D2".
+    std::string name() const;
+};
+
 /// What a spreadsheet refuses when someone types it. Each cell has the name of
 /// a rule; alike rules are one.
 class Validations {
@@ -19,11 +30,11 @@ public:
     /// "$players.$A$2:.$A$1912"; "" when there are none.
     explicit Validations(std::string player_ids) : player_ids_(std::move(player_ids)) {}
 
-    /// The rule for a cell that is only to be read. `cell` is where the rule is
-    /// named, as "players.D2".
-    std::string read_only(std::string_view cell);
+    /// The rule for a cell that is only to be read. The name is good until the
+    /// next call.
+    std::string_view read_only(const CellPlace& cell);
     /// The rule for a field of a row.
-    std::string for_field(const Field& field, const FieldPlace& place, std::string_view cell);
+    std::string_view for_field(const Field& field, const FieldPlace& place, const CellPlace& cell);
 
     /// The element table:content-validations of all rules that were named;
     /// nothing without any.

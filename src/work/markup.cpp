@@ -3,24 +3,31 @@
 namespace kalco {
 namespace {
 
-void add_escaped(std::string& result, std::string_view text) {
-    for (const char character : text) {
-        switch (character) {
-            case '&': result += "&amp;"; break;
-            case '<': result += "&lt;"; break;
-            case '>': result += "&gt;"; break;
-            case '"': result += "&quot;"; break;
-            default: {
-                const auto code = static_cast<unsigned char>(character);
-                const bool control = code < 0x20 && character != '\n' && character != '\t';
-                if (control) {
-                    result += "\uFFFD";
-                } else {
-                    result += character;
-                }
-            }
+/// What stands for a character that can't stand for itself; "" for the others.
+std::string_view reference_of(char character) {
+    switch (character) {
+        case '&': return "&amp;";
+        case '<': return "&lt;";
+        case '>': return "&gt;";
+        case '"': return "&quot;";
+        default: {
+            const auto code = static_cast<unsigned char>(character);
+            const bool control = code < 0x20 && character != '\n' && character != '\t';
+            return control ? "\uFFFD" : "";
         }
     }
+}
+
+void add_escaped(std::string& result, std::string_view text) {
+    std::size_t start = 0;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const std::string_view reference = reference_of(text[i]);
+        if (reference.empty()) continue;
+        result += text.substr(start, i - start);
+        result += reference;
+        start = i + 1;
+    }
+    result += text.substr(start);
 }
 
 }  // namespace

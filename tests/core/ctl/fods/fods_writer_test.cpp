@@ -131,7 +131,11 @@ TEST(FodsWriter, WritesNumbersAsNumbersAndTheRestAsTexts) {
     EXPECT_STREQ(role.attribute("office:value-type").value(), "string");
     // Typed digits stay a text in a column of texts.
     const auto name = workbook().cell("players", 2, place_of("players", "name"));
-    EXPECT_STREQ(name.attribute("table:style-name").value(), "text");
+    EXPECT_FALSE(name.attribute("table:style-name"));
+    const auto columns = workbook().sheet("players").children("table:table-column");
+    EXPECT_STREQ(
+        std::next(columns.begin(), place_of("players", "name") - 1)->attribute("table:default-cell-style-name").value(),
+        "text");
     const auto style =
         workbook().root().child("office:automatic-styles").find_child_by_attribute("style:style", "style:name", "text");
     EXPECT_STREQ(style.attribute("style:data-style-name").value(), "as-text");
