@@ -10,16 +10,15 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cstdint>
 #include <cstring>
-#include <ctime>
 #include <filesystem>
 #include <random>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
+#include "bench/best.h"
 #include "support/sectors.h"
 #include "support/temporary_home.h"
 #include "work/check/image_check.h"
@@ -27,6 +26,7 @@
 namespace {
 
 using namespace kalco;
+using bench::Best;
 
 constexpr std::int64_t sectors = 140000;  // 329 MB
 
@@ -90,28 +90,6 @@ const CachedImage& image() {
     static const CachedImage cached;
     return cached;
 }
-
-/// The shortest time of some runs.
-class Best {
-public:
-    template <typename Run>
-    double measure(Run run) {
-        const auto start = std::chrono::steady_clock::now();
-        const std::clock_t work = std::clock();
-        run();
-        work_ = std::min(work_, static_cast<double>(std::clock() - work));
-        const double seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-        seconds_ = std::min(seconds_, seconds);
-        return seconds;
-    }
-    double seconds() const { return seconds_; }
-    /// The processor's time, of all threads.
-    double work() const { return work_; }
-
-private:
-    double seconds_ = 1e9;
-    double work_ = 1e18;
-};
 
 void compare_with_bare_reading(benchmark::State& state, const check::SectorCheck& how) {
     Best bare;

@@ -17,10 +17,14 @@ PatchSize make_patch(const Image& original, const Image& edited, std::string_vie
     if (edited.length() != length) throw std::invalid_argument("the images have different lengths");
 
     PpfWriter writer(description, checked_block(original), sink);
+    std::string before;
+    std::string after;
     for (std::int64_t offset = 0; offset < length; offset += block_bytes) {
-        const auto bytes = static_cast<int>(std::min(block_bytes, length - offset));
-        const std::string before = original.read(offset + 1, bytes);
-        const std::string after = edited.read(offset + 1, bytes);
+        const std::int64_t bytes = std::min(block_bytes, length - offset);
+        before.resize(static_cast<std::size_t>(bytes));
+        after.resize(static_cast<std::size_t>(bytes));
+        original.read_into(offset + 1, before);
+        edited.read_into(offset + 1, after);
         writer.add(static_cast<std::uint64_t>(offset), before, after);
         if (progress) progress(offset + bytes);
     }
