@@ -29,7 +29,7 @@ namespace {
 int run_on_model(std::istream& script, script::ScriptPlatform& platform, std::ostream& complaints) {
     Editor editor(platform);
     script::ModelStage stage(editor.form);
-    return script::run_script(script, stage, platform, std::cout, complaints);
+    return script::run_script(script, stage, platform, complaints);
 }
 
 /// The commands with their options, declared to the parser.

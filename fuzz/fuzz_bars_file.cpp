@@ -1,55 +1,35 @@
 // Any bytes as a file of bars and formation: the first one chooses the team and the answer, the others are the file.
 // The import ends with a message or a run-time error and writes nothing beyond the team's two records.
 
-#include <cstddef>
-#include <cstdint>
-#include <fstream>
-
-#include "formation_desk.h"
-
-namespace {
+#include "disc/bars.h"
+#include "disc/formation.h"
+#include "fuzz/desk.h"
 
 using namespace kalco;
 
-void forget(std::string& tables, const Pieces& field) {
-    for (const Piece& piece : field) {
-        tables.replace(fuzzing::FormationDesk::place(piece.position), static_cast<std::size_t>(piece.bytes),
-                       static_cast<std::size_t>(piece.bytes), '\0');
-    }
-}
-
-}  // namespace
-
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    if (size < 1) return 0;
-    static fuzzing::FormationDesk desk;
-    desk.begin();
-    const int row = data[0] % default_team_row.value();
+    fuzz::Bytes bytes(data, size);
+    const int first = bytes.next();
+    const TeamRow row(first % bar_teams);
     constexpr Answer answers[] = {Answer::yes, Answer::no, Answer::cancel};
-    const Answer answer = answers[data[0] / default_team_row.value()];
+    const Answer answer = answers[first / bar_teams];
+    const std::string file = bytes.rest();
 
-    const std::string path = (desk.home / "any.bfr").string();
-    std::ofstream(path, std::ios::binary)
-        .write(reinterpret_cast<const char*>(data) + 1, static_cast<std::streamsize>(size - 1));
-    std::string before = desk.tables();
-    user::pick(desk.form, desk.form.cboSeqSQ2, row);
-    desk.platform.choices.push_back(path);
+    static fuzz::FormationDesk desk;
+    desk.begin();
+    user::pick(desk.form, desk.form.cboSeqSQ2, row.value());
+    desk.choose_file(file);
     desk.platform.answers.push_back(answer);
-    int failure = 0;
-    try {
-        desk.click(desk.form.cmdImport);
-    } catch (const RuntimeError& error) {
-        failure = error.number();
-    }
-    fuzzing::require(failure == (size == 1 ? error::past_end_of_file : 0), "only an empty file fails");
+    const int failure = fuzz::attempt([&] { desk.click(desk.form.cmdImport); });
+    fuzz::require(failure == (file.empty() ? error::past_end_of_file : 0), "only an empty file fails");
 
-    std::string after = desk.tables();
-    fuzzing::require(after.size() == before.size(), "the image keeps its size");
-    for (std::string* tables : {&before, &after}) {
-        if (answer != Answer::cancel) forget(*tables, bars_field(TeamRow(row)));
-        if (answer != Answer::no) forget(*tables, formation_field(TeamRow(row)));
-    }
-    fuzzing::require(before == after, "only the team's records change");
+    std::vector<Piece> places;
+    for (const Piece& piece : bars_field(row)) places.push_back(piece);
+    for (const Piece& piece : formation_field(row)) places.push_back(piece);
+    if (answer == Answer::no) places.resize(bars_field(row).size());
+    if (answer == Answer::cancel)
+        places.erase(places.begin(), places.begin() + static_cast<int>(bars_field(row).size()));
+    fuzz::require(desk.wrote_within(places), "only the team's records change");
     if (failure == 0) desk.click(desk.form.cmdExport);
     return 0;
 }

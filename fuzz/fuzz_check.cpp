@@ -6,7 +6,7 @@
 #include <cstdlib>
 #include <vector>
 
-#include "fuzz/editor_desk.h"
+#include "fuzz/input.h"
 #include "support/memory_storage.h"
 #include "work/container.h"
 #include "work/edit.h"

@@ -2,25 +2,21 @@
 // one is an action, an arrow up to 32 times. At the end the formation is saved and read again.
 
 #include <algorithm>
-#include <cstddef>
-#include <cstdint>
 
 #include "disc/formation.h"
-#include "formation_desk.h"
-
-namespace {
+#include "fuzz/desk.h"
 
 using namespace kalco;
 
-constexpr std::size_t record_start = 1;
-constexpr std::size_t actions_start = record_start + formation_bytes;
-constexpr std::size_t most_actions = 64;
+namespace {
 
-void press(fuzzing::FormationDesk& desk, CommandButton& arrow, int times) {
+constexpr int most_actions = 64;
+
+void press(fuzz::Desk& desk, CommandButton& arrow, int times) {
     for (int i = 0; i < times; ++i) desk.click(arrow);
 }
 
-void act(fuzzing::FormationDesk& desk, int action) {
+void act(fuzz::Desk& desk, int action) {
     frmKalco& form = desk.form;
     const int choice = action / 8;
     switch (action % 8) {
@@ -51,29 +47,32 @@ bool has_negative_value(const frmKalco& form) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    if (size < actions_start) return 0;
-    static fuzzing::FormationDesk desk;
+    if (size < 1 + formation_bytes) return 0;
+    fuzz::Bytes bytes(data, size);
+    const TeamRow row(bytes.next() % TeamRow::count);
+    const Pieces field = formation_field(row);
+    std::string record;
+    for (int i = 0; i < formation_bytes; ++i) record += static_cast<char>(bytes.next());
+    const std::string actions = bytes.rest().substr(0, most_actions);
+
+    static fuzz::FormationDesk desk;
     desk.begin();
-    const int row = data[0] % TeamRow::count;
-    const Pieces field = formation_field(TeamRow(row));
-    desk.form.image.write(field, {reinterpret_cast<const char*>(data) + record_start, formation_bytes});
-    const std::string before = desk.tables();
+    frmKalco& form = desk.form;
+    form.image.write(field, record);
+    desk.forget_writes();
+    user::pick(form, form.cboSeqSQ2, row.value());
+    for (const char action : actions) act(desk, static_cast<unsigned char>(action));
+    const bool plain = !has_unknown_role(form) && !has_negative_value(form);
+    desk.click(form.cmdModifica);
 
-    user::pick(desk.form, desk.form.cboSeqSQ2, row);
-    for (std::size_t i = actions_start; i < std::min(size, actions_start + most_actions); ++i) act(desk, data[i]);
-    const bool plain = !has_unknown_role(desk.form) && !has_negative_value(desk.form);
-    desk.click(desk.form.cmdModifica);
-
-    const std::string after = desk.tables();
-    fuzzing::require(after.size() == before.size(), "the image keeps its size");
-    const std::size_t start = fuzzing::FormationDesk::place(field.position());
-    fuzzing::require(after.compare(0, start, before, 0, start) == 0, "nothing in front of the record changes");
+    fuzz::require(desk.disc.size() == fuzz::FormationDesk::image_bytes, "the image keeps its size");
+    fuzz::require(desk.first_written() >= field.position(), "nothing in front of the record changes");
     if (!plain) return 0;
 
-    const auto x = desk.form.FormationX;
-    const auto y = desk.form.FormationY;
-    user::pick(desk.form, desk.form.cboSeqSQ2, row);
-    fuzzing::require(desk.form.FormationX == x && desk.form.FormationY == y, "what was saved is read again");
-    if (size == actions_start) fuzzing::require(after == before, "an untouched formation is saved as it was");
+    const auto x = form.FormationX;
+    const auto y = form.FormationY;
+    user::pick(form, form.cboSeqSQ2, row.value());
+    fuzz::require(form.FormationX == x && form.FormationY == y, "what was saved is read again");
+    if (actions.empty()) fuzz::require(form.image.read(field) == record, "an untouched formation is saved as it was");
     return 0;
 }

@@ -6,7 +6,7 @@
 #include "disc/image/image.h"
 #include "disc/image/journal_format.h"
 #include "disc/image/opening.h"
-#include "fuzz/editor_desk.h"
+#include "fuzz/input.h"
 #include "support/fake_files.h"
 
 using namespace kalco;
@@ -77,7 +77,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     };
     const auto for_reading = [&files](const std::string& path) { return open_for_reading(files, path); };
     if (complete && std::max(journal.lengths().before, journal.lengths().after) > most_bytes) {
-        fuzz::require(fuzz::EditorDesk::attempt([&] { read_all(for_saves); }) == error::path_access);
+        fuzz::require(fuzz::attempt([&] { read_all(for_saves); }) == error::path_access);
         fuzz::require(files.bytes(image_name).empty());
         return 0;
     }

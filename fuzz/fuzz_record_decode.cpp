@@ -1,9 +1,10 @@
-// Any twelve bytes as a record: the decoder ends, and what it shows keeps to the least values of its fields.
+// Any twelve bytes as a record: what is stored comes back, the decoder ends, and what it shows keeps to the least
+// values of its fields.
 
 #include "disc/codec/decimal.h"
 #include "disc/codec/hextext.h"
 #include "disc/player_record.h"
-#include "fuzz/editor_desk.h"
+#include "fuzz/input.h"
 
 using namespace kalco;
 
@@ -17,12 +18,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (const std::int64_t word : words) {
         if (word != -1) digits += file_order_digits(word);
     }
-    fuzz::require(digits.size() < 24 || digits == hex_digits(record));
+    fuzz::require(digits.size() < 24 || digits == hex_digits(record), "the digits of the words are the record's");
+    fuzz::require(words == words_of_record(record), "the words are the same by both ways");
+    fuzz::require(record_of_words(pack_player(unpack_player(words))) == record, "what is stored comes back");
 
     const DecodedPlayer player = decode_player(words);
-    fuzz::require(number_of(player.number.value_or("0")) >= 1);
-    fuzz::require(number_of(player.height.value_or("0")) >= lowest_height);
-    fuzz::require(player.stopped == !player.foot.has_value());
-    for (const auto& skill : player.skills) fuzz::require(player.stopped || number_of(*skill) >= lowest_skill);
+    fuzz::require(number_of(player.number.value_or("0")) >= 1, "numbers begin at 1");
+    fuzz::require(number_of(player.height.value_or("0")) >= lowest_height, "heights begin at 155");
+    fuzz::require(player.stopped == !player.foot.has_value(), "the foot is what comes last");
+    for (const auto& skill : player.skills) {
+        fuzz::require(player.stopped || number_of(*skill) >= lowest_skill, "skills begin at 12");
+    }
     return 0;
 }

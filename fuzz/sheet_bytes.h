@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-#include "fuzz/editor_desk.h"
+#include "fuzz/input.h"
 #include "work/sheets/sheets.h"
 
 namespace kalco::fuzz {

@@ -41,7 +41,7 @@ TransferDraft::TransferDraft(frmKalco& form, Side side, Listeners& listeners) : 
 
 bool TransferDraft::file_holds_lines() const {
     try {
-        return read_lines(transfer_file_path(form_, side_.team)) == side_.lines.items();
+        return read_lines(form_.platform, transfer_file_path(form_, side_.team)) == side_.lines.items();
     } catch (const RuntimeError&) {
         return false;
     }

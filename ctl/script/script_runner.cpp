@@ -194,9 +194,8 @@ void play(std::istream& script, Runner& runner, int& line_number) {
 
 }  // namespace
 
-int run_script(std::istream& script, Stage& stage, ScriptPlatform& platform, std::ostream& out,
-               std::ostream& complaints) {
-    Runner runner(stage, platform, out);
+int run_script(std::istream& script, Stage& stage, ScriptPlatform& platform, std::ostream& complaints) {
+    Runner runner(stage, platform, platform.out());
     int line_number = 0;
     try {
         play(script, runner, line_number);

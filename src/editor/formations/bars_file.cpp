@@ -51,7 +51,8 @@ std::string bars_file_path(const frmKalco& form) {
 void cmdExport_Click(frmKalco& form) {
     if (!has_bars(chosen_row(form))) return;
     make_side_directory(form.platform, directory::formations);
-    write_lines_made(bars_file_path(form), [&form] { return std::vector{bar_digits(form) + formation_digits(form)}; });
+    write_lines_made(form.platform, bars_file_path(form),
+                     [&form] { return std::vector{bar_digits(form) + formation_digits(form)}; });
     form.inform("File creato con successo");
 }
 
@@ -60,7 +61,7 @@ void cmdImport_Click(frmKalco& form) {
     if (!has_bars(row)) return;
     const std::string path = form.platform.open_dialog(filter, form.platform.program_directory());
     if (path.empty()) return;
-    const std::string line = read_first_line(path);
+    const std::string line = read_first_line(form.platform, path);
     const Answer answer = form.platform.message(question, Icon::warning, Buttons::yes_no_cancel);
     // Cancel is not a way out: it takes the formation alone.
     if (answer != Answer::cancel) import_bars(form, row, line);

@@ -65,10 +65,12 @@ std::string linked_player(const frmKalco& form, Club club) {
 }  // namespace
 
 void ProvaRead(frmKalco& form) {
-    const std::string digits = hex_digits(form.image.read(formation_field(TeamRow(form.cboSeqSQ2.row()))));
-    constexpr std::size_t column = 2 * outfield_players;
-    Elab_MOD(form, digits.substr(0, column));
-    place_markers(form, std::string_view(digits).substr(column, column), std::string_view(digits).substr(2 * column));
+    const Formation formation = read_formation(form.image, TeamRow(form.cboSeqSQ2.row()));
+    for (int k = first_marker; k <= last_marker; ++k) {
+        const std::size_t player = index_of(k - first_marker);
+        form.lblGioc(k).set_caption(role_label(formation.roles[player]));
+        place_marker(form, k, formation.x[player], formation.y[player]);
+    }
 }
 
 ModuleTexts Conf_MOD(const frmKalco& form) {

@@ -35,7 +35,7 @@ void cmdExpKick_Click(frmKalco& form) {
     if (form.cboSquadra.row() < 0) return;
     const bool written = with_file_route(form, [&form] {
         make_side_directory(form.platform, directory::kickers);
-        write_lines(kickers_file_path(form), {form.txtHex.text()});
+        write_lines(form.platform, kickers_file_path(form), {form.txtHex.text()});
     });
     if (written) form.inform("File creato con successo");
 }
@@ -46,7 +46,7 @@ void cmdImpKick_Click(frmKalco& form) {
     const std::string path = form.platform.open_dialog(filter, form.platform.program_directory());
     if (path.empty()) return;
     std::string line;
-    if (!with_file_route(form, [&] { line = read_first_line(path); })) return;
+    if (!with_file_route(form, [&] { line = read_first_line(form.platform, path); })) return;
     // A longer line overwrites the records behind this one.
     write_set_pieces(form.image, row, bytes_of_digits(line));
     form.tell_saved("Importazione calci piazzati: " + form.cboSquadra.text());

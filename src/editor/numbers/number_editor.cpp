@@ -116,7 +116,7 @@ void show_change(frmKalco& form, int row, const NumberChange& change) {
 bool import_numbers(frmKalco& form) {
     const std::string path = form.platform.open_dialog(filter, form.platform.program_directory());
     if (path.empty()) return false;
-    std::string line = read_first_line(path);
+    std::string line = read_first_line(form.platform, path);
     for (int i = 0; i < form.ListNum.count(); ++i) {
         form.ListNum.replace(i, left(line, entry_length));
         pack(form);
@@ -244,7 +244,7 @@ void cmdExpNum_Click(frmKalco& form) {
     make_side_directory(form.platform, directory::numbers);
     std::string line;
     for (const std::string& entry : form.ListNum.items()) line += entry;
-    write_lines(numbers_file_path(form), {line});
+    write_lines(form.platform, numbers_file_path(form), {line});
     form.inform("File creato con successo");
 }
 

@@ -19,7 +19,7 @@ std::string line_of_player(frmKalco& form, int player) {
 }
 
 void read_file(frmKalco& form, const std::string& path) {
-    for (const std::string& line : read_lines(path)) form.listAppIMP.add(line);
+    for (const std::string& line : read_lines(form.platform, path)) form.listAppIMP.add(line);
 }
 
 void show_names(frmKalco& form) {
@@ -49,7 +49,7 @@ void cmdExp_Click(frmKalco& form) {
     if (form.cboSeqSQ.row() < 0) return;
     form.listApp.select(form.listDat.row());
     form.ListFile.clear();
-    write_lines_made(exported_team_path(form), [&form] {
+    write_lines_made(form.platform, exported_team_path(form), [&form] {
         for (const std::string& line : team_file_head(form.txtSQ.text(), form.txtSqShort.text())) {
             form.ListFile.add(line);
         }

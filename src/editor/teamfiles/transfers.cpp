@@ -26,7 +26,7 @@ bool open_side(frmKalco& form, const TransferSide& side) {
     side.names.clear();
     const std::string path = form.platform.open_dialog(team_file_filter, form.platform.program_directory());
     if (path.empty()) return false;
-    for (const std::string& line : read_lines(path)) side.lines.add(line);
+    for (const std::string& line : read_lines(form.platform, path)) side.lines.add(line);
     side.team.set_text(upper(names_of_team_file(side.lines.items()).long_name));
     for (int line = first_player_line; line <= last_player_line; ++line) {
         side.names.add(' ' + std::string(name_of_player_line(side.lines.item(line))));
@@ -64,7 +64,7 @@ void swap_players(const TransferSide& first, int v, const TransferSide& second, 
 
 void save_side(frmKalco& form, const TransferSide& side) {
     try {
-        write_lines(transfer_file_path(form, side.team), side.lines.items());
+        write_lines(form.platform, transfer_file_path(form, side.team), side.lines.items());
     } catch (const RuntimeError& failure) {
         form.platform.message(std::string(failure.text()), Icon::stop, Buttons::ok);
         return;

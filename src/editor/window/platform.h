@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "editor/window/side_files.h"
+
 namespace kalco {
 
 enum class Icon { information, warning, stop };
@@ -19,6 +21,8 @@ public:
     virtual std::string open_dialog(const std::string& filter, const std::string& initial_directory) = 0;
     /// The directory below which the side files lie.
     virtual std::string program_directory() const = 0;
+    /// What keeps the side files.
+    virtual SideFiles& side_files() const { return disk_files(); }
     /// A side-file directory can't be made while an image is opened, so that the rest of the opening is left out. A
     /// window tells its user what that means.
     virtual void miss_directory(const std::string& path) { static_cast<void>(path); }

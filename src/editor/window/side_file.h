@@ -35,14 +35,15 @@ inline constexpr std::size_t largest_side_file = 1 << 20;
 
 /// All lines; they end at CR LF, CR or LF, and a last line without an end counts. Error 53 when there is no such file,
 /// 75 when it cannot be opened, 57 when it cannot be read on, 7 when it is larger than the largest.
-std::vector<std::string> read_lines(const std::string& path);
+std::vector<std::string> read_lines(const Platform& platform, const std::string& path);
 /// The first line; what stands behind it is not looked at. Errors as for read_lines, 62 when there is none.
-std::string read_first_line(const std::string& path);
+std::string read_first_line(const Platform& platform, const std::string& path);
 /// Replaces the file when the new one is whole and on the disk; until then the old one stands. Each line is closed by
 /// CR LF. Error 75 when there can't be such a file, 61 when the disk is full, 57 when it can't be written.
-void write_lines(const std::string& path, const std::vector<std::string>& lines);
+void write_lines(const Platform& platform, const std::string& path, const std::vector<std::string>& lines);
 /// The same with lines that are made once it is sure that there can be a file. A RuntimeError of `make` passes through
 /// and leaves the file empty.
-void write_lines_made(const std::string& path, const std::function<std::vector<std::string>()>& make);
+void write_lines_made(const Platform& platform, const std::string& path,
+                      const std::function<std::vector<std::string>()>& make);
 
 }  // namespace kalco

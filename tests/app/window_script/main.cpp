@@ -14,7 +14,7 @@ namespace {
 int run_on_window(std::istream& script, kalco::script::ScriptPlatform& platform, std::ostream& complaints) {
     kalco::Editor editor(platform);
     kalco::test::WindowStage stage(editor.form);
-    return kalco::script::run_script(script, stage, platform, std::cout, complaints);
+    return kalco::script::run_script(script, stage, platform, complaints);
 }
 
 }  // namespace

@@ -39,7 +39,7 @@ protected:
         ScriptPlatform platform(home.path(), out);
         Editor editor(platform, shelf.opener());
         ModelStage stage(editor.form);
-        const int status = run_script(script, stage, platform, out, complaints);
+        const int status = run_script(script, stage, platform, complaints);
         output = out.str();
         complaint = complaints.str();
         return status;
@@ -146,7 +146,7 @@ TEST_F(Scripts, EndLikeARunTimeErrorWithAnyOtherFailure) {
         Editor editor(platform, shelf.opener());
         editor.form.cmdSaveCar.click = [&] { std::rethrow_exception(failure); };
         ModelStage stage(editor.form);
-        EXPECT_EQ(run_script(script, stage, platform, out, complaints), exit_failed);
+        EXPECT_EQ(run_script(script, stage, platform, complaints), exit_failed);
         EXPECT_FALSE(disc().held);
         return out.str().substr(dialog_line.size());
     };
@@ -165,7 +165,7 @@ TEST_F(Scripts, AreNotOverAtAReadError) {
         ScriptPlatform platform(home.path(), out);
         Editor editor(platform, shelf.opener());
         ModelStage stage(editor.form);
-        const int status = run_script(script, stage, platform, out, complaints);
+        const int status = run_script(script, stage, platform, complaints);
         EXPECT_EQ(out.str(), "");
         EXPECT_EQ(complaints.str(), "line 1: the script can't be read on\n");
         return status;

@@ -22,58 +22,58 @@ using test::Fault;
 using test::SystemCall;
 using Lines = std::vector<std::string>;
 
-class SideFiles : public ::testing::Test {
+class SideFileTest : public ::testing::Test {
 protected:
-    SideFiles() { platform.home = home.path(); }
+    SideFileTest() { platform.home = home.path(); }
 
-    Lines lines_of(const std::string& text) { return read_lines(home.write("side.file", text)); }
+    Lines lines_of(const std::string& text) { return read_lines(platform, home.write("side.file", text)); }
     std::string path_of(const std::string& name) const { return side_file_path(platform, directory::transfer, name); }
 
     test::TemporaryHome home;
     test::FakePlatform platform;
 };
 
-TEST_F(SideFiles, EndTheirLinesInThreeWays) {
+TEST_F(SideFileTest, EndTheirLinesInThreeWays) {
     EXPECT_EQ(lines_of("a\r\nb\r\n"), (Lines{"a", "b"}));
     EXPECT_EQ(lines_of("a\nb\n"), (Lines{"a", "b"}));
     EXPECT_EQ(lines_of("a\rb\r"), (Lines{"a", "b"}));
     EXPECT_EQ(lines_of("a\r\nb\nc\rd\n\re"), (Lines{"a", "b", "c", "d", "", "e"}));
 }
 
-TEST_F(SideFiles, CountALastLineWithoutAnEnd) {
+TEST_F(SideFileTest, CountALastLineWithoutAnEnd) {
     EXPECT_EQ(lines_of("a\r\nb"), (Lines{"a", "b"}));
     EXPECT_EQ(lines_of("a"), Lines{"a"});
     EXPECT_EQ(lines_of("a\r"), Lines{"a"});
 }
 
-TEST_F(SideFiles, KeepEmptyLines) {
+TEST_F(SideFileTest, KeepEmptyLines) {
     EXPECT_EQ(lines_of(""), Lines{});
     EXPECT_EQ(lines_of("\r\n"), Lines{""});
     EXPECT_EQ(lines_of("\r\r\n\n"), (Lines{"", "", ""}));
     EXPECT_EQ(lines_of("\n\na"), (Lines{"", "", "a"}));
 }
 
-TEST_F(SideFiles, KeepEveryOtherByte) {
+TEST_F(SideFileTest, KeepEveryOtherByte) {
     std::string all;
     for (int code = 0; code <= 0xFF; ++code) {
         if (code != '\r' && code != '\n') all += static_cast<char>(code);
     }
     EXPECT_EQ(lines_of(all + "\r\n" + all), (Lines{all, all}));
     const std::string path = home.path("out.file");
-    write_lines(path, {all, "", " b "});
+    write_lines(platform, path, {all, "", " b "});
     EXPECT_EQ(home.read("out.file"), all + "\r\n\r\n b \r\n");
-    EXPECT_EQ(read_lines(path), (Lines{all, "", " b "}));
+    EXPECT_EQ(read_lines(platform, path), (Lines{all, "", " b "}));
 }
 
-TEST_F(SideFiles, AreReplacedWhole) {
+TEST_F(SideFileTest, AreReplacedWhole) {
     const std::string path = home.write("out.file", std::string(1000, 'x'));
-    write_lines(path, {"a"});
+    write_lines(platform, path, {"a"});
     EXPECT_EQ(home.read("out.file"), "a\r\n");
-    write_lines(path, {});
+    write_lines(platform, path, {});
     EXPECT_EQ(home.read("out.file"), "");
 }
 
-TEST_F(SideFiles, MayBeLong) {
+TEST_F(SideFileTest, MayBeLong) {
     const std::string line(300000, 'y');
     EXPECT_EQ(lines_of(line + "\r\n" + line), (Lines{line, line}));
     // The two characters of a line's end may fall to both sides of a buffer.
@@ -83,62 +83,63 @@ TEST_F(SideFiles, MayBeLong) {
     }
 }
 
-TEST_F(SideFiles, HaveAFirstLineOrFail) {
-    EXPECT_EQ(read_first_line(home.write("one", "ab\r\ncd")), "ab");
-    EXPECT_EQ(read_first_line(home.write("blank", "\r\n")), "");
-    EXPECT_EQ(error_of([&] { read_first_line(home.write("empty", "")); }), error::past_end_of_file);
-    EXPECT_EQ(error_of([&] { read_first_line(home.path("missing")); }), error::file_not_found);
+TEST_F(SideFileTest, HaveAFirstLineOrFail) {
+    EXPECT_EQ(read_first_line(platform, home.write("one", "ab\r\ncd")), "ab");
+    EXPECT_EQ(read_first_line(platform, home.write("blank", "\r\n")), "");
+    EXPECT_EQ(error_of([&] { read_first_line(platform, home.write("empty", "")); }), error::past_end_of_file);
+    EXPECT_EQ(error_of([&] { read_first_line(platform, home.path("missing")); }), error::file_not_found);
 }
 
-TEST_F(SideFiles, CannotBeReadWhenTheyAreNoFiles) {
-    EXPECT_EQ(error_of([&] { read_lines(home.path("missing")); }), error::file_not_found);
-    EXPECT_EQ(error_of([&] { read_lines(home.path("missing/file")); }), error::file_not_found);
-    EXPECT_EQ(error_of([&] { read_lines(home.path()); }), error::path_access);
+TEST_F(SideFileTest, CannotBeReadWhenTheyAreNoFiles) {
+    EXPECT_EQ(error_of([&] { read_lines(platform, home.path("missing")); }), error::file_not_found);
+    EXPECT_EQ(error_of([&] { read_lines(platform, home.path("missing/file")); }), error::file_not_found);
+    EXPECT_EQ(error_of([&] { read_lines(platform, home.path()); }), error::path_access);
     ASSERT_EQ(::mkfifo(home.path("pipe").c_str(), 0600), 0);
-    EXPECT_EQ(error_of([&] { read_lines(home.path("pipe")); }), error::path_access);
-    EXPECT_EQ(error_of([&] { read_lines("/dev/zero"); }), error::path_access);
+    EXPECT_EQ(error_of([&] { read_lines(platform, home.path("pipe")); }), error::path_access);
+    EXPECT_EQ(error_of([&] { read_lines(platform, "/dev/zero"); }), error::path_access);
 }
 
-TEST_F(SideFiles, TellThatTheyCannotBeWritten) {
-    EXPECT_EQ(error_of([&] { write_lines(home.path("missing/file"), {"a"}); }), error::path_access);
-    EXPECT_EQ(error_of([&] { write_lines(home.path(), {"a"}); }), error::path_access);
+TEST_F(SideFileTest, TellThatTheyCannotBeWritten) {
+    EXPECT_EQ(error_of([&] { write_lines(platform, home.path("missing/file"), {"a"}); }), error::path_access);
+    EXPECT_EQ(error_of([&] { write_lines(platform, home.path(), {"a"}); }), error::path_access);
     EXPECT_FALSE(home.has("missing"));
 }
 
-TEST_F(SideFiles, CannotBeWrittenWhereTheyCouldNotBeRead) {
+TEST_F(SideFileTest, CannotBeWrittenWhereTheyCouldNotBeRead) {
     ASSERT_EQ(::mkfifo(home.path("pipe").c_str(), 0600), 0);
     for (const std::string& path : {home.path("pipe"), std::string("/dev/full"), std::string("/dev/null")}) {
-        EXPECT_EQ(error_of([&] { write_lines(path, {"a"}); }), error::path_access) << path;
-        EXPECT_EQ(error_of([&] { write_lines_made(path, [] { return Lines{"a"}; }); }), error::path_access) << path;
+        EXPECT_EQ(error_of([&] { write_lines(platform, path, {"a"}); }), error::path_access) << path;
+        EXPECT_EQ(error_of([&] { write_lines_made(platform, path, [] { return Lines{"a"}; }); }), error::path_access)
+            << path;
     }
     EXPECT_EQ(std::filesystem::status(home.path("pipe")).type(), std::filesystem::file_type::fifo);
 }
 
-TEST_F(SideFiles, AreNeverReadBeyondTheLargest) {
+TEST_F(SideFileTest, AreNeverReadBeyondTheLargest) {
     const std::string largest(largest_side_file, 'x');
     EXPECT_EQ(lines_of(largest), Lines{largest});
     EXPECT_EQ(error_of([&] { lines_of(largest + 'x'); }), error::out_of_memory);
     EXPECT_EQ(error_of([&] { lines_of(std::string(10 << 20, '\n')); }), error::out_of_memory);
-    EXPECT_EQ(read_first_line(home.write("one", largest)), largest);
-    EXPECT_EQ(error_of([&] { read_first_line(home.write("one", largest + "x\r\n")); }), error::out_of_memory);
+    EXPECT_EQ(read_first_line(platform, home.write("one", largest)), largest);
+    EXPECT_EQ(error_of([&] { read_first_line(platform, home.write("one", largest + "x\r\n")); }), error::out_of_memory);
 }
 
-TEST_F(SideFiles, AreNotReadBehindTheirFirstLine) {
+TEST_F(SideFileTest, AreNotReadBehindTheirFirstLine) {
     const std::string rest(3 << 20, 'x');
-    EXPECT_EQ(read_first_line(home.write("one", "ab\r\n" + rest)), "ab");
-    EXPECT_EQ(read_first_line(home.write("one", "\n" + rest)), "");
+    EXPECT_EQ(read_first_line(platform, home.write("one", "ab\r\n" + rest)), "ab");
+    EXPECT_EQ(read_first_line(platform, home.write("one", "\n" + rest)), "");
     // Lines that end at and behind the end of a block.
     for (const std::size_t length : {65535U, 65536U, 65537U, 200000U}) {
         const std::string line(length, 'y');
-        EXPECT_EQ(read_first_line(home.write("one", line + '\r' + rest)), line) << length;
+        EXPECT_EQ(read_first_line(platform, home.write("one", line + '\r' + rest)), line) << length;
     }
 }
 
-class ReplacedSideFile : public SideFiles {
+class ReplacedSideFile : public SideFileTest {
 protected:
     int writing_error(SystemCall call, std::deque<Fault> faults) {
         const test::SystemFaults plan(call, std::move(faults));
-        const int number = error_of([&] { write_lines(path, {"new"}); });
+        const int number = error_of([&] { write_lines(platform, path, {"new"}); });
         EXPECT_EQ(plan.left(), 0U);
         return number;
     }
@@ -185,7 +186,7 @@ TEST_F(ReplacedSideFile, StandsWhenTheProgramIsKilled) {
         const pid_t child = ::fork();
         if (child == 0) {
             const test::SystemFaults plan(call, {{.kills = true}});
-            error_of([&] { write_lines(path, {"new"}); });
+            error_of([&] { write_lines(platform, path, {"new"}); });
             ::_exit(1);
         }
         int status = 0;
@@ -193,34 +194,34 @@ TEST_F(ReplacedSideFile, StandsWhenTheProgramIsKilled) {
         EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL);
         EXPECT_EQ(home.read("a.DAT"), "old");
     }
-    write_lines(path, {"new"});
+    write_lines(platform, path, {"new"});
     EXPECT_EQ(home.read("a.DAT"), "new\r\n") << "what the killed ones left is in nobody's way";
 }
 
 TEST_F(ReplacedSideFile, IsLeftEmptyByAnErrorOfItsLines) {
     const auto fail = []() -> Lines { throw RuntimeError(error::invalid_call); };
-    EXPECT_EQ(error_of([&] { write_lines_made(path, fail); }), error::invalid_call);
+    EXPECT_EQ(error_of([&] { write_lines_made(platform, path, fail); }), error::invalid_call);
     EXPECT_EQ(home.read("a.DAT"), "");
-    EXPECT_EQ(error_of([&] { write_lines_made(home.path("b.DAT"), fail); }), error::invalid_call);
+    EXPECT_EQ(error_of([&] { write_lines_made(platform, home.path("b.DAT"), fail); }), error::invalid_call);
     EXPECT_EQ(home.read("b.DAT"), "");
     EXPECT_EQ(files(), 2U);
-    EXPECT_EQ(error_of([&] { write_lines_made(home.path("missing/b.DAT"), fail); }), error::path_access);
+    EXPECT_EQ(error_of([&] { write_lines_made(platform, home.path("missing/b.DAT"), fail); }), error::path_access);
 }
 
 TEST_F(ReplacedSideFile, KeepsItsModeAndItsLinks) {
     ASSERT_EQ(::chmod(path.c_str(), 0640), 0);
     std::filesystem::create_symlink("a.DAT", home.path("link.DAT"));
     std::filesystem::create_symlink(home.path("link.DAT"), home.path("second.DAT"));
-    write_lines(home.path("second.DAT"), {"new"});
+    write_lines(platform, home.path("second.DAT"), {"new"});
     EXPECT_TRUE(std::filesystem::is_symlink(home.path("second.DAT")));
     EXPECT_TRUE(std::filesystem::is_symlink(home.path("link.DAT")));
     EXPECT_EQ(home.read("a.DAT"), "new\r\n");
     EXPECT_EQ(std::filesystem::status(path).permissions(), std::filesystem::perms(0640));
     std::filesystem::create_symlink("new.DAT", home.path("third.DAT"));
-    write_lines(home.path("third.DAT"), {"x"});
+    write_lines(platform, home.path("third.DAT"), {"x"});
     EXPECT_EQ(home.read("new.DAT"), "x\r\n");
     std::filesystem::create_symlink("round.DAT", home.path("round.DAT"));
-    EXPECT_EQ(error_of([&] { write_lines(home.path("round.DAT"), {"x"}); }), error::path_access);
+    EXPECT_EQ(error_of([&] { write_lines(platform, home.path("round.DAT"), {"x"}); }), error::path_access);
 }
 
 TEST_F(ReplacedSideFile, MustNotBeWriteProtected) {
@@ -231,7 +232,7 @@ TEST_F(ReplacedSideFile, MustNotBeWriteProtected) {
     if (child == 0) {
         // Nothing is write-protected for root.
         if (::geteuid() == 0 && ::setuid(nobody) != 0) ::_exit(1);
-        ::_exit(error_of([&] { write_lines(path, {"new"}); }));
+        ::_exit(error_of([&] { write_lines(platform, path, {"new"}); }));
     }
     int status = 0;
     ::waitpid(child, &status, 0);
@@ -240,7 +241,7 @@ TEST_F(ReplacedSideFile, MustNotBeWriteProtected) {
     EXPECT_EQ(files(), 1U);
 }
 
-TEST_F(SideFiles, LieInTheirDirectories) {
+TEST_F(SideFileTest, LieInTheirDirectories) {
     EXPECT_EQ(path_of("ALFA.DAT"), home.path("Transfer/ALFA.DAT"));
     EXPECT_EQ(side_directory(platform, directory::numbers), home.path("N\xC2\xB0 Maglia"));
     EXPECT_EQ(side_directory(platform, directory::export_teams), home.path("Export"));
@@ -248,7 +249,7 @@ TEST_F(SideFiles, LieInTheirDirectories) {
     EXPECT_EQ(side_directory(platform, directory::kickers), home.path("Kickers&Capitani"));
 }
 
-TEST_F(SideFiles, AreNamedByLatin1Characters) {
+TEST_F(SideFileTest, AreNamedByLatin1Characters) {
     EXPECT_EQ(path_of("\xC0"
                       "b\xFF.DAT"),
               home.path("Transfer/\xC3\x80"
@@ -257,7 +258,7 @@ TEST_F(SideFiles, AreNamedByLatin1Characters) {
     EXPECT_EQ(path_of("\x7F\x80.DAT"), home.path("Transfer/\x7F\xC2\x80.DAT"));
 }
 
-TEST_F(SideFiles, NeverLeaveTheirDirectory) {
+TEST_F(SideFileTest, NeverLeaveTheirDirectory) {
     for (int code = 0; code <= 0xFF; ++code) {
         const bool refused =
             code < 0x20 || std::string("\\/:*?\"<>|").find(static_cast<char>(code)) != std::string::npos;
@@ -267,7 +268,7 @@ TEST_F(SideFiles, NeverLeaveTheirDirectory) {
     EXPECT_EQ(error_of([&] { path_of("../x.DAT"); }), error::bad_file_name);
 }
 
-TEST_F(SideFiles, HaveDirectoriesThatAreMadeOnce) {
+TEST_F(SideFileTest, HaveDirectoriesThatAreMadeOnce) {
     make_side_directory(platform, directory::numbers);
     EXPECT_TRUE(std::filesystem::is_directory(home.path("N\xC2\xB0 Maglia")));
     home.write("N\xC2\xB0 Maglia/kept.num", "x");
@@ -275,7 +276,7 @@ TEST_F(SideFiles, HaveDirectoriesThatAreMadeOnce) {
     EXPECT_EQ(home.read("N\xC2\xB0 Maglia/kept.num"), "x");
 }
 
-TEST_F(SideFiles, NeedADirectoryThatCanBeMade) {
+TEST_F(SideFileTest, NeedADirectoryThatCanBeMade) {
     platform.home = home.path("missing");
     EXPECT_EQ(error_of([&] { make_side_directory(platform, directory::transfer); }), error::path_access);
     EXPECT_FALSE(home.has("missing"));
@@ -283,7 +284,7 @@ TEST_F(SideFiles, NeedADirectoryThatCanBeMade) {
     EXPECT_EQ(error_of([&] { make_side_directory(platform, directory::transfer); }), error::path_access);
 }
 
-TEST_F(SideFiles, LeaveAFileWithTheDirectorysNameAlone) {
+TEST_F(SideFileTest, LeaveAFileWithTheDirectorysNameAlone) {
     home.write("Transfer", "x");
     make_side_directory(platform, directory::transfer);
     EXPECT_EQ(home.read("Transfer"), "x");
