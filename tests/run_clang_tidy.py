@@ -4,6 +4,10 @@
 BUILD holds compile_commands.json. A file is skipped when nothing that its last clean run saw has changed: its text, the
 project's headers below it, the forms, .clang-tidy, the compile command and clang-tidy itself. The clean runs are
 remembered in BUILD/tidy.
+
+Most of the time goes into the headers that every file includes. So files that are compiled alike are looked at a batch
+at a time, as one source that includes them all. A batch with a finding, or one whose files can't stand in one source,
+is looked at again file by file: what is printed is always what a file alone gives.
 """
 import argparse
 import concurrent.futures
@@ -18,6 +22,9 @@ import sys
 
 ROOT = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
 FOLDERS = ("src", "ctl", "app")
+BATCH = 8
+# In a batch the sources are included files. That they are sources is the one thing not to be told.
+BATCH_OPTIONS = ["--header-filter=/(src|ctl|app)/[^.]*\\.(h|cpp)$", "--checks=-bugprone-suspicious-include"]
 INCLUDE = re.compile(rb'^[ \t]*#[ \t]*include[ \t]*"([^"]+)"', re.MULTILINE)
 
 
@@ -63,6 +70,34 @@ class Hasher:
         return total.hexdigest()
 
 
+def command_of(entry):
+    return entry.get("command") or shlex.join(entry["arguments"])
+
+
+def flags_of(entry):
+    """The compile command without the compiler, the source and the object."""
+    words = shlex.split(command_of(entry))[1:]
+    flags = []
+    while words:
+        word = words.pop(0)
+        if word in ("-o", "-c"):
+            words.pop(0)
+        else:
+            flags.append(word)
+    return flags
+
+
+def batches_of(files, commands, jobs):
+    """Files that are compiled alike, a few at a time; enough batches for all jobs."""
+    alike = {}
+    for path in files:
+        alike.setdefault(tuple(flags_of(commands[path])), []).append(path)
+    size = max(1, min(BATCH, len(files) // (2 * jobs)))
+    for group in alike.values():
+        for start in range(0, len(group), size):
+            yield group[start:start + size]
+
+
 def main():
     parser = argparse.ArgumentParser(usage=__doc__)
     parser.add_argument("build")
@@ -83,29 +118,42 @@ def main():
     clean = os.path.join(options.build, "tidy")
     os.makedirs(clean, exist_ok=True)
 
-    def stamp(path):
-        entry = commands[path]
-        command = entry.get("command") or shlex.join(entry["arguments"])
-        return os.path.join(clean, hasher.digest(path, version, config, command))
-
-    stamps = {path: stamp(path) for path in sources}
+    stamps = {path: os.path.join(clean, hasher.digest(path, version, config, command_of(commands[path])))
+              for path in sources}
     due = [path for path in sources if not os.path.exists(stamps[path])]
 
-    def lint(path):
-        result = subprocess.run(["clang-tidy", "--quiet", "-p", options.build, path], capture_output=True, text=True)
-        if result.returncode == 0:
-            with open(stamps[path], "w", encoding="utf-8") as file:
-                file.write(path + "\n")
-        return path, result
+    def tidy(*words):
+        return subprocess.run(["clang-tidy", "--quiet", *words], capture_output=True, text=True)
+
+    def is_clean_batch(batch):
+        name = hashlib.sha256("\0".join(batch).encode()).hexdigest()[:16]
+        source = os.path.join(options.build, f"tidy_batch_{name}.cpp")
+        with open(source, "w", encoding="utf-8") as file:
+            file.writelines(f'#include "{path}"\n' for path in batch)
+        try:
+            return tidy(*BATCH_OPTIONS, source, "--", *flags_of(commands[batch[0]])).returncode == 0
+        finally:
+            os.remove(source)
+
+    def lint(batch):
+        """The results of the files that are not clean."""
+        bad = []
+        if len(batch) == 1 or not is_clean_batch(batch):
+            results = [(path, tidy("-p", options.build, path)) for path in batch]
+            bad = [(path, result) for path, result in results if result.returncode != 0]
+        unclean = {path for path, _ in bad}
+        for path in batch:
+            if path not in unclean:
+                with open(stamps[path], "w", encoding="utf-8") as file:
+                    file.write(path + "\n")
+        return bad
 
     failed = 0
     with concurrent.futures.ThreadPoolExecutor(options.jobs) as pool:
-        for path, result in pool.map(lint, due):
-            if result.returncode != 0:
-                failed += 1
-                print(f"{os.path.relpath(path, ROOT)}:\n{result.stdout}")
-                if not result.stdout:
-                    print(result.stderr)
+        for bad in pool.map(lint, batches_of(due, commands, options.jobs)):
+            failed += len(bad)
+            for path, result in bad:
+                print(f"{os.path.relpath(path, ROOT)}:\n{result.stdout or result.stderr}")
     current = {os.path.basename(s) for s in stamps.values()}
     if not wanted:
         for old in set(os.listdir(clean)) - current:
