@@ -22,14 +22,20 @@ QColor mix(const QColor& one, const QColor& other, double share) {
                             channel(one.blueF(), other.blueF()));
 }
 
-/// The first mixture, from `share` of `towards` on, that can be read.
-QColor mixed_until_readable(const QColor& towards, const QColor& from, const QColor& ground, double share) {
+struct Mixture {
+    QColor towards;
+    QColor from;
+    double share;  ///< How much of `towards` is in it.
+};
+
+/// The first mixture, from its share on, that can be read.
+QColor mixed_until_readable(const Mixture& first, const QColor& ground) {
     constexpr double step = 0.02;
-    for (double part = share; part < 1; part += step) {
-        const QColor colour = mix(towards, from, part);
+    for (double part = first.share; part < 1; part += step) {
+        const QColor colour = mix(first.towards, first.from, part);
         if (contrast(colour, ground) >= readable_contrast) return colour;
     }
-    return towards;
+    return first.towards;
 }
 
 }  // namespace
@@ -42,11 +48,11 @@ double contrast(const QColor& ink, const QColor& ground) {
 
 QColor readable(const QColor& ink, const QColor& ground) {
     const QColor end = contrast(Qt::white, ground) > contrast(Qt::black, ground) ? Qt::white : Qt::black;
-    return mixed_until_readable(end, ink, ground, 0);
+    return mixed_until_readable({end, ink, 0}, ground);
 }
 
 QColor faint(const QColor& ink, const QColor& ground, double share) {
-    return mixed_until_readable(ink, ground, ground, share);
+    return mixed_until_readable({ink, ground, share}, ground);
 }
 
 QColor warning_ink(const QColor& ground) {

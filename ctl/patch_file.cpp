@@ -57,7 +57,7 @@ void UndoFile::commit(std::string_view what) {
     const std::vector<SectorChange> changes = edit_.settle();
     if (path_.empty() || edit_.dry_run() || changes.empty()) return edit_.commit(what);
     NewFile file(path_);
-    file.write(patch_of_changes(changes, block_, "Undo"));
+    file.write(patch_of_changes(block_, changes, "Undo"));
     file.finish(NewFile::Existing::keep);
     try {
         edit_.commit(what);

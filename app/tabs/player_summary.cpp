@@ -36,9 +36,9 @@ PlayerSummary summary_of_line(const PlayerLine& line) {
 
 }  // namespace
 
-PlayerSummary summary_of(const ListBox& names, const ListBox& lines) {
-    if (names.row() < 0) return {};
-    const auto index = static_cast<std::size_t>(names.row());
+PlayerSummary summary_of(const ListBox& lines, int row) {
+    if (row < 0) return {};
+    const auto index = static_cast<std::size_t>(row);
     try {
         return summary_of_line(split_player_line(lines.item(static_cast<int>(index + head_lines)), index));
     } catch (const RuntimeError&) {

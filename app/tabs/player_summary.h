@@ -10,7 +10,7 @@ namespace kalco::app {
 
 /// The record of the player selected in a list of the transfers, out of the lines of its file; empty when nothing is
 /// selected or the line can't be read.
-PlayerSummary summary_of(const ListBox& names, const ListBox& lines);
+PlayerSummary summary_of(const ListBox& lines, int row);
 
 /// What listNC shows beside its rows: the nationality, the default players and those that were picked.
 std::function<RowNote(int row)> pool_notes(const frmKalco& form);

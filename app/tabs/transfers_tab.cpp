@@ -19,8 +19,8 @@ void TransfersTab::refresh() {
     unsaved_first_.setText(unsaved_mark(drafts_.first_file()));
     unsaved_second_.setText(unsaved_mark(drafts_.second_file()));
     if (form_.SSTab1.tab() != tab::transfers) return;
-    sold_.show_player(summary_of(form_.ListVende, form_.listTras1));
-    bought_.show_player(summary_of(form_.ListCompra, form_.listTras2));
+    sold_.show_player(summary_of(form_.listTras1, form_.ListVende.row()));
+    bought_.show_player(summary_of(form_.listTras2, form_.ListCompra.row()));
 }
 
 std::vector<CommandButton*> TransfersTab::saves() {

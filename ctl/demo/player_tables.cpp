@@ -24,7 +24,7 @@ void put_rosters(DemoDisc& disc, const World& world, Random& random) {
     // The slot that the shifted team leaves out belongs to no player, but a record stands there as well.
     disc.put(user_offset_of(roster_record_field({shifted_team, first_shifted_player - 1}).position()) +
                  player_record_bytes,
-             make_player(sound_of_country(shifted_team.value()), Role::midfielder, 2, 24, random).record());
+             make_player(sound_of_country(shifted_team.value()), 2, Role::midfielder, 24, random).record());
 }
 
 void put_pool(DemoDisc& disc, const World& world) {

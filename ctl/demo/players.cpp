@@ -97,7 +97,7 @@ Roles squad_roles(const std::array<Role, 10>& field_players, Random& random) {
     return roles;
 }
 
-Player make_player(Sound sound, Role role, int strength, int number, Random& random) {
+Player make_player(Sound sound, int strength, Role role, int number, Random& random) {
     const RoleFacts& facts = role_facts[static_cast<std::size_t>(role)];
     Player player{invented_name(sound, random), {}};
     PlayerValues& values = player.values;

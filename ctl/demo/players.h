@@ -30,7 +30,7 @@ Roles squad_roles(const std::array<Role, 10>& field_players, Random& random);
 
 /// A player with skills that fit his role. `strength` is 0 for a weak team to 4 for a strong one, `number` his shirt
 /// number, 1 to 32.
-Player make_player(Sound sound, Role role, int strength, int number, Random& random);
+Player make_player(Sound sound, int strength, Role role, int number, Random& random);
 
 /// 23 different shirt numbers from 1 to `highest`, the goalkeeper's first.
 std::array<int, roster_players> make_numbers(int highest, Random& random);

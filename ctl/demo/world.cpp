@@ -36,7 +36,7 @@ Squad make_team(Sound sound, int strength, Random& random) {
     Squad squad = make_squad(strength, random);
     const Roles roles = squad_roles(line_up(*squad.module), random);
     for (std::size_t k = 0; k < roles.size(); ++k) {
-        squad.players[k] = make_player(sound, roles[k], strength, squad.numbers[k], random);
+        squad.players[k] = make_player(sound, strength, roles[k], squad.numbers[k], random);
     }
     return squad;
 }
@@ -73,7 +73,7 @@ void make_pool(World& world, Random& random) {
         const Role role = in_team ? roles[place] : static_cast<Role>(random.below(static_cast<int>(role_texts.size())));
         const int number = in_team ? team.numbers[place] : random.between(1, highest_number);
         const int strength = in_team ? team.strength : random.between(0, top_strength);
-        world.pool.push_back(make_player(sound_of_country(code_of(row)->team), role, strength, number, random));
+        world.pool.push_back(make_player(sound_of_country(code_of(row)->team), strength, role, number, random));
         if (in_team) team.players[place] = world.pool.back();
     }
 }

@@ -57,10 +57,16 @@ std::string text_of_cell(const pugi::xml_node& cell) {
     return fods::shown_text(cell);
 }
 
+/// Of all sheets read so far.
+struct Amount {
+    std::size_t cells = 0;
+    std::size_t bytes = 0;
+};
+
 /// Reads one sheet.
 class SheetReader {
 public:
-    SheetReader(Table& table, std::size_t& cells, std::size_t& bytes) : table_(table), cells_(cells), bytes_(bytes) {}
+    SheetReader(Table& table, Amount& amount) : table_(table), amount_(amount) {}
 
     void add_rows(const pugi::xml_node& group, int depth = 0) {
         static constexpr std::array<std::string_view, 3> groups{"table:table-header-rows", "table:table-rows",
@@ -114,9 +120,9 @@ private:
     }
 
     void count_content(const std::vector<std::string>& cells) {
-        cells_ += cells.size();
-        for (const std::string& cell : cells) bytes_ += cell.size();
-        if (cells_ > most_cells || bytes_ > most_bytes) {
+        amount_.cells += cells.size();
+        for (const std::string& cell : cells) amount_.bytes += cell.size();
+        if (amount_.cells > most_cells || amount_.bytes > most_bytes) {
             throw TableError(row_, {}, "more cells than the sheets of a disc have");
         }
     }
@@ -130,8 +136,7 @@ private:
     }
 
     Table& table_;
-    std::size_t& cells_;  ///< Of all sheets so far.
-    std::size_t& bytes_;
+    Amount& amount_;
     int row_ = 1;
 };
 
@@ -161,11 +166,10 @@ Tables tables_of_fods(std::string text) {
     const pugi::xml_node sheets = document.child("office:document").child("office:body").child("office:spreadsheet");
     if (!sheets) throw TableError(0, {}, "no flat OpenDocument spreadsheet");
     Tables tables;
-    std::size_t cells = 0;
-    std::size_t bytes = 0;
+    Amount amount;
     for (const pugi::xml_node& sheet : sheets.children("table:table")) {
         Table table{sheet.attribute("table:name").value(), {}, {}};
-        SheetReader(table, cells, bytes).add_rows(sheet);
+        SheetReader(table, amount).add_rows(sheet);
         if (!table.columns.empty()) tables.push_back(std::move(table));
     }
     return tables;

@@ -69,9 +69,15 @@ int columns_in_view(const Table& table) {
     return columns;
 }
 
-void write_setting(Markup& markup, std::string_view name, std::string_view type, std::string_view value) {
-    markup.open("config:config-item").attribute("config:name", name).attribute("config:type", type);
-    markup.text(value).close();
+struct Setting {
+    std::string_view name;
+    std::string_view type;
+    std::string_view value;
+};
+
+void write_setting(Markup& markup, const Setting& setting) {
+    markup.open("config:config-item").attribute("config:name", setting.name).attribute("config:type", setting.type);
+    markup.text(setting.value).close();
 }
 
 /// The panes: row 1 and the first columns stay in view.
@@ -79,25 +85,25 @@ void write_settings(Markup& markup, const Tables& tables) {
     markup.open("office:settings").open("config:config-item-set").attribute("config:name", "ooo:view-settings");
     markup.open("config:config-item-map-indexed").attribute("config:name", "Views");
     markup.open("config:config-item-map-entry");
-    write_setting(markup, "ViewId", "string", "view1");
+    write_setting(markup, {"ViewId", "string", "view1"});
     markup.open("config:config-item-map-named").attribute("config:name", "Tables");
     for (const Table& table : tables) {
         const std::string columns = std::to_string(columns_in_view(table));
         markup.open("config:config-item-map-entry").attribute("config:name", table.sheet);
         for (const std::string_view split : {"HorizontalSplitMode", "VerticalSplitMode"}) {
-            write_setting(markup, split, "short", "2");
+            write_setting(markup, {split, "short", "2"});
         }
         for (const std::string_view left : {"CursorPositionX", "HorizontalSplitPosition", "PositionRight"}) {
-            write_setting(markup, left, "int", columns);
+            write_setting(markup, {left, "int", columns});
         }
         for (const std::string_view top : {"CursorPositionY", "VerticalSplitPosition", "PositionBottom"}) {
-            write_setting(markup, top, "int", "1");
+            write_setting(markup, {top, "int", "1"});
         }
-        write_setting(markup, "ActiveSplitRange", "short", "3");
+        write_setting(markup, {"ActiveSplitRange", "short", "3"});
         markup.close();
     }
     markup.close();
-    if (!tables.empty()) write_setting(markup, "ActiveTable", "string", tables.front().sheet);
+    if (!tables.empty()) write_setting(markup, {"ActiveTable", "string", tables.front().sheet});
     markup.close().close().close().close();
 }
 

@@ -26,18 +26,23 @@ void clear_end_of_table(Image& image, Team team) {
     image.write(name_field(team, NamePlace::full_width)->position(), zero_bytes(last_club_cleared_bytes));
 }
 
-/// `fill` goes over the old name before the new one. Of a split field only the second piece is filled.
-void write_full_width_name(Image& image, const Pieces& field, std::string_view fill, std::string_view coded) {
+struct FullWidthText {
+    std::string_view fill;  ///< Goes over the old name before the new one.
+    std::string_view coded;
+};
+
+/// Of a split field only the second piece is filled.
+void write_full_width_name(Image& image, const Pieces& field, const FullWidthText& text) {
     if (!field.split()) {
-        image.write(field.position(), fill);
-        image.write(field.position(), coded);
+        image.write(field.position(), text.fill);
+        image.write(field.position(), text.coded);
         return;
     }
     const auto first_bytes = static_cast<std::size_t>(field[0].bytes);
-    image.write(field[0].position, left(coded, first_bytes));
-    image.write(field[1].position, right(fill, static_cast<std::size_t>(field[1].bytes)));
-    if (coded.size() < first_bytes) throw RuntimeError(error::invalid_call);
-    image.write(field[1].position, coded.substr(first_bytes));
+    image.write(field[0].position, left(text.coded, first_bytes));
+    image.write(field[1].position, right(text.fill, static_cast<std::size_t>(field[1].bytes)));
+    if (text.coded.size() < first_bytes) throw RuntimeError(error::invalid_call);
+    image.write(field[1].position, text.coded.substr(first_bytes));
 }
 
 /// Zeroes over the field, then as much of the name as it holds.
@@ -70,7 +75,8 @@ void rename_team(Image& image, LetterEncoder& encoder, Team team, const NewNames
     clear_end_of_table(image, team);
     if (const auto field = name_field(team, NamePlace::full_width)) {
         const std::string coded = encoder.encode(names.full_width);
-        write_full_width_name(image, *field, full_width_fill(team, shown_name, names.full_width), trim(coded));
+        const std::string fill = full_width_fill(team, shown_name, names.full_width);
+        write_full_width_name(image, *field, {fill, trim(coded)});
     }
     write_table_names(image, team, names.table_name);
 }
@@ -86,7 +92,7 @@ void rename_club(Image& image, LetterEncoder& encoder, Club club, const NewNames
     std::string fill;
     if (!shown_name) fill = zero_bytes(2 * letters);
     if (shown_name && cut.size() < shown_name->size()) fill = zero_bytes(2 * shown_name->size());
-    write_full_width_name(image, field, fill, encoder.encode(cut));
+    write_full_width_name(image, field, {fill, encoder.encode(cut)});
     write_table_names(image, team, names.table_name);
 }
 

@@ -16,7 +16,7 @@ PatchSize make_patch(const Image& original, const Image& edited, std::string_vie
     const std::int64_t length = original.length();
     if (edited.length() != length) throw std::invalid_argument("the images have different lengths");
 
-    PpfWriter writer(description, checked_block(original), sink);
+    PpfWriter writer(description, sink, checked_block(original));
     std::string before;
     std::string after;
     for (std::int64_t offset = 0; offset < length; offset += block_bytes) {

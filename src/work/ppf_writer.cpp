@@ -40,7 +40,7 @@ std::string_view whole_characters(std::string_view text) {
 
 }  // namespace
 
-PpfWriter::PpfWriter(std::string_view description, std::string_view block, Sink sink) : sink_(std::move(sink)) {
+PpfWriter::PpfWriter(std::string_view description, Sink sink, std::string_view block) : sink_(std::move(sink)) {
     if (block.size() != ppf_block_bytes) throw std::invalid_argument("the checked block has 1024 bytes");
     head_ = "PPF30\x02";
     head_ += whole_characters(description.substr(0, ppf_description_bytes));

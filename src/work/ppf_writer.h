@@ -16,7 +16,7 @@ public:
 
     /// `block`: the 1024 bytes of the image before, from ppf_block_offset(PpfImage::bin) on. A description of more than
     /// 50 bytes is cut.
-    PpfWriter(std::string_view description, std::string_view block, Sink sink);
+    PpfWriter(std::string_view description, Sink sink, std::string_view block);
 
     /// The same stretch of the image before and after, of one length; stretches come in rising order of offset. Runs of
     /// changed bytes become records.

@@ -13,7 +13,7 @@ std::string checked_block(const Image& image);
 
 /// A PPF patch with undo data that makes `changes`: taking it back undoes them. `block` is that of the image before. ""
 /// when no byte changes.
-std::string patch_of_changes(std::span<const SectorChange> changes, std::string_view block,
+std::string patch_of_changes(std::string_view block, std::span<const SectorChange> changes,
                              std::string_view description);
 
 }  // namespace kalco

@@ -78,7 +78,7 @@ std::string hex_number(std::int64_t value, std::size_t width) {
     return text;
 }
 
-std::string reversed_pairs(std::string_view digits, std::string_view separator) {
+std::string reversed_pairs(std::string_view digits, const char* separator) {
     std::string text;
     while (!digits.empty()) {
         const std::size_t taken = std::min<std::size_t>(2, digits.size());

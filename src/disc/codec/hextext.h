@@ -25,6 +25,6 @@ std::string hex_number(std::int64_t value, std::size_t width = 0);
 
 /// The pairs of a text of digits in reverse order: big-endian to little-endian and back. A lone first digit gets a
 /// leading "0". `separator` is put behind each pair but the last.
-std::string reversed_pairs(std::string_view digits, std::string_view separator = {});
+std::string reversed_pairs(std::string_view digits, const char* separator = "");
 
 }  // namespace kalco

@@ -39,6 +39,7 @@ constexpr std::array<std::uint64_t, 2> carry_on{power(bits + 64 - 32), power(bit
     return _mm_loadu_si128(static_cast<const __m128i*>(from));
 }
 
+// NOLINTNEXTLINE(bugprone-easily-swappable-parameters): registers have one type
 [[gnu::target("pclmul,sse4.1")]] __m128i folded(__m128i block, __m128i constants, __m128i onto) {
     const __m128i front = _mm_clmulepi64_si128(block, constants, 0x00);
     const __m128i back = _mm_clmulepi64_si128(block, constants, 0x11);

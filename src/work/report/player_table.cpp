@@ -41,9 +41,14 @@ struct Columns {
     bool origin = false;  ///< Where the player linked to stands.
 };
 
-void write_heading(Markup& page, std::string_view text, std::string_view kind) {
+/// How a column or a cell looks: a class of the style sheet, none for numbers.
+struct Look {
+    std::string_view name;
+};
+
+void write_heading(Markup& page, std::string_view text, Look look) {
     page.open("th").attribute("scope", "col");
-    if (!kind.empty()) page.attribute("class", kind);
+    if (!look.name.empty()) page.attribute("class", look.name);
     page.text(text).close();
 }
 
@@ -51,8 +56,8 @@ void open_table(Markup& page, const Columns& columns, std::string_view title) {
     page.open("div").attribute("class", "scroll").open("table").attribute("class", "players");
     page.leaf("caption", title).open("thead").open("tr");
     write_heading(page, "N°", {});
-    write_heading(page, "Giocatore", "l");
-    write_heading(page, "Ruolo", "l");
+    write_heading(page, "Giocatore", {"l"});
+    write_heading(page, "Ruolo", {"l"});
     write_heading(page, "Età", {});
     write_heading(page, "Altezza", {});
     write_heading(page, "Peso", {});
@@ -61,9 +66,9 @@ void open_table(Markup& page, const Columns& columns, std::string_view title) {
         page.open("th").attribute("scope", "col").attribute("class", "high");
         page.open("abbr").attribute("title", skill.whole).text(skill.shown).close().close();
     }
-    if (columns.cost) write_heading(page, "Costo", "high");
-    if (columns.clubs) write_heading(page, "Nei club", "l");
-    if (columns.origin) write_heading(page, "Dalla rosa", "l");
+    if (columns.cost) write_heading(page, "Costo", {"high"});
+    if (columns.clubs) write_heading(page, "Nei club", {"l"});
+    if (columns.origin) write_heading(page, "Dalla rosa", {"l"});
     page.close().close().open("tbody").raw("\n");
 }
 
@@ -71,9 +76,9 @@ void close_table(Markup& page) {
     page.close().close().close().raw("\n");
 }
 
-void write_cell(Markup& page, std::string_view text, std::string_view kind = {}) {
+void write_cell(Markup& page, std::string_view text, Look look = {}) {
     page.open("td");
-    if (!kind.empty()) page.attribute("class", kind);
+    if (!look.name.empty()) page.attribute("class", look.name);
     page.text(text).close();
 }
 
@@ -114,9 +119,9 @@ void write_row(Markup& page, const Report& report, int row, std::string_view num
     write_cell(page, player.foot);
     for (const int skill : player.skills) {
         static constexpr std::array<std::string_view, 8> levels{"v0", "v1", "v2", "v3", "v4", "v5", "v6", "v7"};
-        write_cell(page, std::to_string(skill), levels[static_cast<std::size_t>(skill - lowest_skill)]);
+        write_cell(page, std::to_string(skill), {levels[static_cast<std::size_t>(skill - lowest_skill)]});
     }
-    if (columns.cost) write_cell(page, player.cost, "cost");
+    if (columns.cost) write_cell(page, player.cost, {"cost"});
     if (columns.clubs) write_clubs(page, report, player);
     if (columns.origin) write_origin(page, report, row);
     page.close().raw("\n");

@@ -188,7 +188,8 @@ TEST(PpfPatch, RefusesAPatchCutAnywhereButBehindARecord) {
 std::string written(std::string_view description, const std::string& before, const std::string& after,
                     std::uint64_t offset = 0) {
     std::string file;
-    PpfWriter writer(description, block, [&file](std::string_view bytes) { file += bytes; });
+    PpfWriter writer(
+        description, [&file](std::string_view bytes) { file += bytes; }, block);
     writer.add(offset, before, after);
     return file;
 }
@@ -250,7 +251,9 @@ TEST(PpfWriter, FindsSingleBytesEverywhere) {
 
 TEST(PpfWriter, RefusesStretchesOfTwoLengths) {
     EXPECT_THROW(written("", "ab", "abc"), std::invalid_argument);
-    EXPECT_THROW(PpfWriter("", "short", [](std::string_view) {}), std::invalid_argument);
+    EXPECT_THROW(PpfWriter(
+                     "", [](std::string_view) {}, "short"),
+                 std::invalid_argument);
 }
 
 }  // namespace
