@@ -9,7 +9,7 @@ namespace kalco::app {
 namespace {
 
 constexpr std::array<const char*, set_piece_bytes> column_names{"punizioni corte", "punizioni lunghe", "corner DX",
-                                                                  "corner SX",       "rigori",           "capitano"};
+                                                                "corner SX",       "rigori",           "capitano"};
 
 std::array<ControlArray<OptionButton>*, set_piece_bytes> option_columns(frmKalco& form) {
     return {&form.opCPC, &form.opCPL, &form.opCAD, &form.opCAS, &form.opRIG, &form.opCAP};
