@@ -36,6 +36,9 @@ public:
     ImportPlan plan(const Tables& tables) {
         several_ = tables.size() > 1;
         for (const Table& table : tables) take(table);
+        if (!options_.sheet.empty() && !tables.empty() && sheet_ == nullptr && plan_.mistakes.empty()) {
+            plan_.mistakes.push_back({0, {}, "it has no sheet " + quoted(options_.sheet)});
+        }
         std::sort(plan_.changes.begin(), plan_.changes.end(), [](const FieldChange& a, const FieldChange& b) {
             return std::tie(a.sheet, a.row, a.column) < std::tie(b.sheet, b.row, b.column);
         });

@@ -182,6 +182,13 @@ TEST_F(Import, TakesTheNamedSheet) {
     EXPECT_EQ(mistakes(plan_import(disc, tables)), Lines{"1:sheet: unknown sheet \"notes\""});
 }
 
+TEST_F(Import, TellsThatTheNamedSheetIsNotThere) {
+    const Table other{"notes", {{"id"}}, {}};
+    EXPECT_EQ(mistakes(plan_import(disc, {other}, {"teams"})), Lines{"0:: it has no sheet \"teams\""});
+    EXPECT_TRUE(mistakes(plan_import(disc, {other, {"teams", {{"id"}}, {}}}, {"teams"})).empty());
+    EXPECT_TRUE(mistakes(plan_import(disc, {{"", {{"id"}}, {}}}, {"teams"})).empty());
+}
+
 TEST_F(Import, TakesOneIdOnceInAllTables) {
     Tables tables{table_of_csv("id,speed\r\nt00p01,15\r\n"), table_of_csv("id,age\r\nt00p01,20\r\n")};
     EXPECT_EQ(mistakes(plan_import(disc, tables)).size(), 1U);
