@@ -9,7 +9,7 @@
 #include "disc/codec/utf8.h"
 #include "disc/image/sector.h"
 #include "disc/image/sector_layout.h"
-#include "fuzz/editor_desk.h"
+#include "fuzz/input.h"
 #include "support/filled_disc.h"
 #include "support/memory_storage.h"
 #include "work/edit.h"
@@ -126,7 +126,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             require(record.old_bytes.size() == (patch.has_undo() ? record.new_bytes.size() : 0));
         }
         require(!broken_utf8(ctl::text_of_patch(patch) + ctl::json_of_patch(patch)));
-        write(patch, way >= 0xF0);
+        write(patch, way == 0xFF);
     } catch (const PpfError&) {
         // What is no patch, or one for a longer image.
     }
