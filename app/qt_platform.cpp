@@ -117,7 +117,7 @@ void QtPlatform::miss_directory(const std::string& path) {
     if (before_box) before_box();
     QMessageBox box(parent());
     box.setIcon(QMessageBox::Warning);
-    box.setWindowTitle(QCoreApplication::applicationName());
+    box.setWindowTitle(QGuiApplication::applicationDisplayName());
     box.setTextFormat(Qt::PlainText);
     box.setText(QStringLiteral("Impossibile creare la cartella\n%1").arg(QString::fromStdString(path)));
     box.setInformativeText(QStringLiteral(

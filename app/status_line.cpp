@@ -6,6 +6,11 @@
 #include "app/widgets/elided_label.h"
 
 namespace kalco::app {
+namespace {
+
+constexpr int side_margin = 7;  ///< As of the page above.
+
+}  // namespace
 
 StatusLine::StatusLine(QWidget* parent)
     : QStatusBar(parent),
@@ -20,6 +25,7 @@ StatusLine::StatusLine(QWidget* parent)
     addWidget(text_, 1);
     addPermanentWidget(resume_button_);
     setSizeGripEnabled(false);
+    setContentsMargins(side_margin, 0, side_margin, 0);
     connect(resume_button_, &QPushButton::clicked, this, &StatusLine::press);
 }
 

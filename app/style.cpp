@@ -12,11 +12,15 @@ namespace {
 
 constexpr auto unsaved_property = "unsaved";
 
-void draw_unsaved_bar(QPainter& painter, const QStyleOption& option) {
-    constexpr int width = 4;
-    const QRect field = option.rect.adjusted(1, 1, -1, -1);
-    const QColor base = option.palette.color(QPalette::Base);
-    painter.fillRect(QRect(field.left(), field.top(), width, field.height()), warning_ink(base));
+/// Within the frame: the text begins beside it.
+void draw_unsaved_edge(QPainter& painter, const QStyleOption& option) {
+    constexpr int width = 2;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(warning_ink(option.palette.color(QPalette::Base)), width));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(option.rect).adjusted(1, 1, -1, -1), 2, 2);
+    painter.restore();
 }
 
 }  // namespace
@@ -39,7 +43,7 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
                           const QWidget* widget) const {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     if (element == PE_PanelLineEdit && widget != nullptr && is_marked_unsaved(*widget)) {
-        draw_unsaved_bar(*painter, *option);
+        draw_unsaved_edge(*painter, *option);
     }
 }
 
@@ -47,7 +51,7 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
                                const QWidget* widget) const {
     QProxyStyle::drawComplexControl(control, option, painter, widget);
     if (control == CC_ComboBox && widget != nullptr && is_marked_unsaved(*widget)) {
-        draw_unsaved_bar(*painter, *option);
+        draw_unsaved_edge(*painter, *option);
     }
 }
 

@@ -4,8 +4,8 @@
 
 namespace kalco::app {
 
-/// Fusion on the system's palette, with room around the captions of buttons, popups of a list's height, a bar at the
-/// edge of unsaved fields, and inks that can be read.
+/// Fusion on the system's palette, with room around the captions of buttons, popups of a list's height, a strong
+/// edge around unsaved fields, and inks that can be read.
 class Style : public QProxyStyle {
     Q_OBJECT
 
@@ -25,7 +25,7 @@ public:
                            const QWidget* widget) const override;
 };
 
-/// Whether a text field or pick list shows the bar.
+/// Whether a text field or pick list shows the edge.
 void mark_unsaved(QWidget& field, bool unsaved);
 bool is_marked_unsaved(const QWidget& field);
 

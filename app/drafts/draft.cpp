@@ -1,6 +1,7 @@
 #include "app/drafts/draft.h"
 
 #include <QStringList>
+#include <algorithm>
 #include <utility>
 
 namespace kalco::app {
@@ -27,6 +28,14 @@ QString Draft::told() const {
     return title + QStringLiteral(": ") + parts.join(QStringLiteral(", "));
 }
 
+bool same(const Draft& one, const Draft& other) {
+    return one.title == other.title && std::equal(one.changes.begin(), one.changes.end(), other.changes.begin(),
+                                                  other.changes.end(), [](const FieldChange& a, const FieldChange& b) {
+                                                      return a.field == b.field && a.before == b.before &&
+                                                             a.after == b.after;
+                                                  });
+}
+
 QString unsaved_mark(const Draft& draft) {
     return draft.empty() ? QString() : QStringLiteral("● non salvato");
 }
@@ -37,6 +46,8 @@ Draft DraftWatch::look() {
     Draft dropped;
     if (loaded && !saved && !draft_.empty()) dropped = lost(draft_);
     draft_ = now();
+    // A button that was to fill the fields may have left them alone: the dialog of the image was cancelled.
+    if (same(dropped, draft_)) dropped = {};
     return dropped;
 }
 

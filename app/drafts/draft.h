@@ -29,6 +29,9 @@ struct Draft {
     QString told() const;
 };
 
+/// Whether the same changes are unsaved in the same place.
+bool same(const Draft& one, const Draft& other);
+
 /// What stands beside a save button; empty for an empty draft.
 QString unsaved_mark(const Draft& draft);
 

@@ -8,7 +8,7 @@
 
 namespace kalco::app {
 
-/// Marks the fields of a draft: a bar at their edge, and what they were in their hints.
+/// Marks the fields of a draft: a strong edge, and what they were in their hints.
 class FieldMarks {
 public:
     explicit FieldMarks(const Binder& binder) : binder_(binder) {}

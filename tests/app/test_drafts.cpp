@@ -258,6 +258,17 @@ private Q_SLOTS:
         QVERIFY(status().contains(QStringLiteral("velocità")));
     }
 
+    void a_cancelled_change_of_image_drops_nothing() {
+        choose_player(10, 3);
+        t_->type(form().txtSqShort, QStringLiteral("ITL"));
+        pick(form().cboVel, form().cboVel.row() == 7 ? 0 : 7);
+        t_->platform.choices.push_back("");
+        t_->click(form().cmdOpen);
+        QVERIFY(status().isEmpty());
+        QVERIFY(!resume_button().isVisible());
+        QVERIFY(!mark("viewUnsavedPlayer").isEmpty() && !mark("viewUnsavedNames").isEmpty());
+    }
+
     void another_image_has_nothing_to_resume() {
         const test::DemoHome other;
         choose_player(10, 3);

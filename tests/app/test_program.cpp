@@ -141,8 +141,13 @@ private Q_SLOTS:
         app::KalcoWindow window(editor.form);
         platform.choose_next(QString::fromStdString(home.image()));
         QString text;
-        on_box([&text](QMessageBox& box) { text = press_enter(box); });
+        QString title;
+        on_box([&](QMessageBox& box) {
+            title = box.windowTitle();
+            text = press_enter(box);
+        });
         window.start();
+        QCOMPARE(title, QStringLiteral("Kalco"));
         QCOMPARE(text, QStringLiteral("Impossibile creare la cartella\n/dev/null/Export"));
         // The opening goes on as far as it did without the box.
         QVERIFY(window.isVisible());

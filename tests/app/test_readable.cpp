@@ -58,6 +58,12 @@ private Q_SLOTS:
         QVERIFY(app::contrast(app::readable(Qt::darkBlue, Qt::black), Qt::black) >= 4.5);
     }
 
+    void the_palette_of_the_desktop_is_read_through_the_style() {
+        const QColor hint = QApplication::palette().color(QPalette::PlaceholderText);
+        QCOMPARE(hint.alpha(), 255);
+        QVERIFY(app::contrast(hint, QApplication::palette().color(QPalette::Window)) >= 4.5);
+    }
+
     void all_texts_of_the_window_can_be_read_data() {
         QTest::addColumn<QPalette>("palette");
         QTest::newRow("breeze dark") << desktop("#2a2e32", "#1b1e20", "#31363b", "#fcfcfc", "#6f7174", "#3daee9");

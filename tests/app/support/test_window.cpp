@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QPalette>
+#include <QStyle>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QtTest/qtestkeyboard.h>
@@ -41,7 +42,10 @@ QPalette dark_palette() {
 void prepare_application(bool dark) {
     QApplication::setStyle(new app::Style);
     QApplication::setQuitOnLastWindowClosed(false);
-    if (dark) QApplication::setPalette(dark_palette());
+    if (!dark) return;
+    QPalette palette = dark_palette();
+    QApplication::style()->polish(palette);  // As with the palette of a desktop.
+    QApplication::setPalette(palette);
 }
 
 DemoHome::DemoHome() {

@@ -1,5 +1,6 @@
-// window_picture IMAGE OUT.png [TAB] [dark] [unsaved] [dropped]: a picture of the window with a team chosen on the tab,
-// with something changed on it, with that dropped. An image that is not there gives the window without one.
+// window_picture IMAGE OUT.png [TAB] [dark] [unsaved] [dropped] [pending] [lost]: a picture of the window with a team
+// chosen on the tab, with something changed on it, with that dropped, with an import that waits, with the path lost in
+// a cancelled dialog. An image that is not there gives the window without one.
 
 #include <QApplication>
 #include <QPixmap>
@@ -63,8 +64,6 @@ void change_something(frmKalco& form) {
         case tab::numbers:
             user::type(form, form.txtNumMod, "31");
             user::click(form, form.cmdModNum);
-            user::pick(form, form.cboSQNum, 3);
-            user::pick(form, form.ListName, 2);
             break;
         default: break;
     }
@@ -75,6 +74,12 @@ void drop_it(frmKalco& form) {
     const int tab = form.SSTab1.tab();
     user::select_tab(form, tab == tab::transfers ? tab::players : tab::transfers);
     user::select_tab(form, tab);
+}
+
+/// The numbers of one team are prepared, and those of another are shown.
+void show_other_numbers(frmKalco& form) {
+    user::pick(form, form.cboSQNum, 3);
+    user::pick(form, form.ListName, 2);
 }
 
 /// Two exported teams for the transfers.
@@ -92,16 +97,28 @@ void open_two_files(test::TestWindow& test) {
     user::pick(form, form.ListCompra, 3);
 }
 
+/// The team that is chosen is exported and comes back, not yet saved.
+void import_something(test::TestWindow& test) {
+    frmKalco& form = test.form();
+    const std::string file = test.platform.home + "/Export/" + form.txtSQ.text() + ".DAT";
+    test.window.binder().act([&] {
+        user::click(form, form.cmdExp);
+        test.platform.choices.push_back(file);
+        user::click(form, form.cmdImp);
+    });
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
     const QApplication app(argc, argv);
     const QStringList arguments = QApplication::arguments();
     if (arguments.size() < 3) {
-        std::cerr << "window_picture IMAGE OUT.png [TAB] [dark] [unsaved] [dropped]\n";
+        std::cerr << "window_picture IMAGE OUT.png [TAB] [dark] [unsaved] [dropped] [pending] [lost]\n";
         return 2;
     }
-    test::prepare_application(arguments.contains(QStringLiteral("dark")));
+    const auto wanted = [&arguments](const char* word) { return arguments.contains(QString::fromLatin1(word)); };
+    test::prepare_application(wanted("dark"));
     test::TestWindow test(arguments[1].toStdString());
     const int tab = arguments.value(3).toInt();
     if (test.form().image.is_open()) {
@@ -110,10 +127,16 @@ int main(int argc, char** argv) {
             user::select_tab(test.form(), tab);
             choose_something(test.form());
         });
-        if (arguments.contains(QStringLiteral("unsaved"))) {
+        if (wanted("unsaved")) {
             test.window.binder().act([&] { change_something(test.form()); });
+            if (tab == tab::numbers) test.window.binder().act([&] { show_other_numbers(test.form()); });
         }
-        if (arguments.contains(QStringLiteral("dropped"))) test.window.binder().act([&] { drop_it(test.form()); });
+        if (wanted("dropped")) test.window.binder().act([&] { drop_it(test.form()); });
+        if (wanted("pending")) import_something(test);
+        if (wanted("lost")) {
+            test.platform.choices.push_back("");
+            test.click(test.form().cmdOpen);
+        }
     }
     QApplication::processEvents();
     return test.window.grab().save(arguments[2]) ? 0 : 1;
