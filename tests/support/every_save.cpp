@@ -1,5 +1,7 @@
 #include "support/every_save.h"
 
+#include <cstdio>
+
 #include "support/team_files.h"
 
 namespace kalco::test {
@@ -206,6 +208,11 @@ const std::vector<EverySave>& every_save() {
         travelled(true),
     };
     return saves;
+}
+
+void Tally::print(const char* what) const {
+    std::printf("%s: %d faults at %d calls, %d times the old image, %d times the new one\n", what, faults, calls,
+                old_images, new_images);
 }
 
 }  // namespace kalco::test

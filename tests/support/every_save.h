@@ -53,4 +53,18 @@ struct EverySave {
 
 const std::vector<EverySave>& every_save();
 
+/// What became of the images of many faults, for the eye.
+struct Tally {
+    int calls = 0;  ///< At which a fault was tried.
+    int faults = 0;
+    int old_images = 0;
+    int new_images = 0;
+
+    void count(bool is_new) {
+        ++faults;
+        ++(is_new ? new_images : old_images);
+    }
+    void print(const char* what) const;
+};
+
 }  // namespace kalco::test

@@ -25,6 +25,8 @@ constexpr auto journal_name = "disc.bin.kalco-journal";
 
 class RealSave : public ::testing::TestWithParam<std::size_t> {
 protected:
+    static void TearDownTestSuite() { tally.print("saves of a file"); }
+
     RealSave() { home.write(name, test::filled_image()); }
 
     /// What the save does on the filled image, with a fault at one of its calls.
@@ -74,6 +76,7 @@ protected:
     // Of the last run.
     std::vector<std::string> calls;
     bool told_saved = false;
+    inline static test::Tally tally;
 };
 
 INSTANTIATE_TEST_SUITE_P(Program, RealSave, ::testing::Range<std::size_t>(0, test::every_save().size()));
@@ -96,12 +99,14 @@ TEST_P(RealSave, IsWholeOrNotAtAll) {
     fill_again(after);
     for (std::size_t k = 0; k < whole.size(); ++k) {
         if (whole[k] == "read" || whole[k] == "about" || whole[k] == "look") continue;
+        ++tally.calls;
         for (const CallFault& fault : faults_of(k)) {
             const std::string at = save.name + ", call " + std::to_string(k + 1) + ", " + whole[k] + ", fault " +
                                    std::to_string(static_cast<int>(fault.kind)) + ' ' + std::to_string(fault.code);
             run(static_cast<int>(k) + 1, fault);
             const std::string left = next_image();
             ASSERT_TRUE(left == before || left == after) << at;
+            tally.count(left == after);
             if (told_saved) {
                 ASSERT_EQ(left, after) << at;
             }

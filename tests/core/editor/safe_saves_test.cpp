@@ -87,6 +87,8 @@ protected:
         whole = run(files, save);
         log = whole.log;
     }
+    static void TearDownTestSuite() { tally.print("saves in memory"); }
+
     /// Reads behind the save itself are left out but for a few: the tab shows again what the image holds.
     bool is_worth_a_fault(int call) const {
         const auto removal = std::find(log.begin(), log.end(), std::string("remove ") + journal_name) - log.begin();
@@ -98,6 +100,7 @@ protected:
     const EverySave& save = test::every_save()[GetParam()];
     Outcome whole;
     std::vector<std::string> log;
+    inline static test::Tally tally;
 };
 
 INSTANTIATE_TEST_SUITE_P(Program, EverySaveOf, ::testing::Range<std::size_t>(0, test::every_save().size()));
@@ -113,12 +116,14 @@ TEST_P(EverySaveOf, ChangesTheImageWithAJournal) {
 TEST_P(EverySaveOf, IsWholeOrNotAtAllAfterAnyFailure) {
     for (int call = 1; call <= whole.calls; ++call) {
         if (!is_worth_a_fault(call)) continue;
+        ++tally.calls;
         for (const int code : {EIO, ENOSPC}) {
             // A read fails in one way only.
             if (code == ENOSPC && is_read(call)) continue;
             FakeFiles files;
             const Outcome outcome = run(files, save, call, {CallFault::Kind::fails, code});
             ASSERT_TRUE(outcome.after == whole.before || outcome.after == whole.after) << at(call);
+            tally.count(outcome.after == whole.after);
             if (outcome.told_saved) {
                 ASSERT_TRUE(outcome.after == whole.after) << at(call);
             } else {
@@ -142,6 +147,7 @@ TEST_P(EverySaveOf, IsWholeOrNotAtAllAfterAKillOrAStop) {
             if (stops > 0) files.stop_machine(&chance);
             const PagedBytes left = next_image(files);
             ASSERT_TRUE(left == whole.before || left == whole.after) << at(call);
+            tally.count(left == whole.after);
         }
     }
 }
