@@ -48,6 +48,14 @@ FakeFiles files_with(const SaveCase& save) {
     return files;
 }
 
+/// What a save has left whose process has ended since.
+FakeFiles files_after(const SaveCase& save, int call, CallFault fault) {
+    FakeFiles files = files_with(save);
+    run(files, save, call, fault);
+    files.end_process();
+    return files;
+}
+
 int calls_of(const SaveCase& save) {
     FakeFiles files = files_with(save);
     EXPECT_TRUE(run(files, save, 0, {}).told_saved);
@@ -156,9 +164,9 @@ TEST_P(Commit, IsTheOldOrTheNewImageAfterAKill) {
 TEST_P(Commit, IsTheOldOrTheNewImageWhateverAStopLoses) {
     std::mt19937 chance(static_cast<unsigned>(GetParam()));
     for (int call = 1; call <= calls; ++call) {
+        const FakeFiles killed = files_after(save, call, {CallFault::Kind::killed_after, 0});
         for (int round = 0; round < 40; ++round) {
-            FakeFiles files = files_with(save);
-            run(files, save, call, {CallFault::Kind::killed_after, 0});
+            FakeFiles files = killed.copy();
             files.stop_machine(round == 0 ? nullptr : &chance);
             const std::string left = test::after_next_opening(files);
             ASSERT_TRUE(left == save.before || left == save.after) << save.name << ' ' << call;
@@ -179,9 +187,9 @@ TEST_P(Commit, StandsOnceItWasTold) {
 TEST_P(Commit, IsTheOldOrTheNewImageWhenAFailureIsFollowedByAStop) {
     std::mt19937 chance(static_cast<unsigned>(GetParam()) + 100);
     for (int call = 1; call <= calls; ++call) {
+        const FakeFiles failed = files_after(save, call, {CallFault::Kind::fails, EIO});
         for (int round = 0; round < 20; ++round) {
-            FakeFiles files = files_with(save);
-            run(files, save, call, {CallFault::Kind::fails, EIO});
+            FakeFiles files = failed.copy();
             files.stop_machine(&chance);
             const std::string left = test::after_next_opening(files);
             ASSERT_TRUE(left == save.before || left == save.after) << save.name << ' ' << call;
@@ -202,13 +210,10 @@ TEST_P(Commit, SyncsNothingTwiceAfterAFailure) {
 TEST_P(Commit, CanBeInterruptedWhileItIsTakenBack) {
     std::mt19937 chance(static_cast<unsigned>(GetParam()) + 200);
     for (int call = 1; call <= calls; ++call) {
-        FakeFiles killed = files_with(save);
-        run(killed, save, call, {CallFault::Kind::killed_after, 0});
+        const FakeFiles killed = files_after(save, call, {CallFault::Kind::killed_after, 0});
         // The next opening is killed at each of its calls in turn, and the one after that is left alone.
         for (int next = 1;; ++next) {
-            FakeFiles files = files_with(save);
-            run(files, save, call, {CallFault::Kind::killed_after, 0});
-            files.end_process();
+            FakeFiles files = killed.copy();
             files.plan(next, {CallFault::Kind::killed_after, 0});
             bool through = false;
             try {
