@@ -1,6 +1,7 @@
 #include "app/doing.h"
 
 #include <QAccessible>
+#include <QWidget>
 
 #include "app/text.h"
 

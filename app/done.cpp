@@ -66,7 +66,7 @@ DoneWatch::DoneWatch(frmKalco& form, Listeners& listeners) {
     on_save(form.cmdSalva, chosen(form.cboSeqSQ2));
     on_save(form.cmdSaveNum, chosen(form.cboSQNum));
 
-    const auto on_export = [&](CommandButton& button, std::function<std::string()> path) {
+    const auto on_export = [&](CommandButton& button, const std::function<std::string()>& path) {
         listeners.before(button.click, [this, path] {
             path_ = told_path(path);
             was_there_ = QFileInfo::exists(path_);

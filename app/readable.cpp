@@ -25,13 +25,14 @@ QColor mix(const QColor& one, const QColor& other, double share) {
 struct Mixture {
     QColor towards;
     QColor from;
-    double share;  ///< How much of `towards` is in it.
+    double share = 0;  ///< How much of `towards` is in it.
 };
 
 /// The first mixture, from its share on, that can be read.
 QColor mixed_until_readable(const Mixture& first, const QColor& ground) {
-    constexpr double step = 0.02;
-    for (double part = first.share; part < 1; part += step) {
+    constexpr int steps = 50;
+    for (int step = 0; step < steps; ++step) {
+        const double part = first.share + (1 - first.share) * step / steps;
         const QColor colour = mix(first.towards, first.from, part);
         if (contrast(colour, ground) >= readable_contrast) return colour;
     }

@@ -1,3 +1,5 @@
+#include <QStringList>
+
 #include "app/drafts/record_draft.h"
 #include "app/drafts/typing.h"
 #include "app/text.h"
@@ -11,7 +13,7 @@ namespace {
 constexpr std::array<const char*, bar_count> bar_names{"Offense", "Defense", "Power", "Speed", "Techinique"};
 
 int bar_of(const std::string& digits, int bar) {
-    return hex_pair(std::string_view(digits).substr(static_cast<std::size_t>(2 * (bar - 1)), 2));
+    return hex_pair(std::string_view(digits).substr(2 * static_cast<std::size_t>(bar - 1), 2));
 }
 
 }  // namespace

@@ -22,7 +22,7 @@ QString short_role(const std::string& entry) {
         const auto groups = groups_of_entry(entry);
         const DecodedPlayer player =
             decode_player({word_of_group(groups[0]), word_of_group(groups[1]), word_of_group(groups[2])});
-        const auto found = std::find(role_texts.begin(), role_texts.end(), player.role.value_or(std::string()));
+        const auto* const found = std::ranges::find(role_texts, player.role.value_or(std::string()));
         if (found == role_texts.end()) return {};
         return QString::fromLatin1(short_roles.at(static_cast<std::size_t>(found - role_texts.begin())));
     } catch (const RuntimeError&) {

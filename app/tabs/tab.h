@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QWidget>
+#include <QLineEdit>
 #include <stdexcept>
 #include <vector>
 

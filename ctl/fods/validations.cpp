@@ -53,7 +53,7 @@ Validations::Rule Validations::rule_of(const Field& field, int limit, std::strin
         case FieldKind::wide_text: {
             const std::string own = own_reference(cell);
             rule.condition =
-                "of:is-true-formula(LEN(" + own + ")+LEN(SUBSTITUTE(" + own + ";\" \";\"\"))<=" + most + ')';
+                "of:is-true-formula(LEN(" + own + ")+LEN(SUBSTITUTE(" + own + R"(;" ";""))<=)" + most + ')';
             rule.message = "Il nome può avere " + most + " byte: due per ogni lettera o punto, uno per ogni spazio.";
             break;
         }

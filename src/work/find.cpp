@@ -97,6 +97,7 @@ private:
 
     void sort_by(const SheetColumn* column, std::vector<int>& rows) const {
         std::vector<std::pair<SortKey, int>> keyed;
+        keyed.reserve(rows.size());
         for (const int row : rows) keyed.emplace_back(key_of(column, cell(column, row)), row);
         std::stable_sort(keyed.begin(), keyed.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
         std::transform(keyed.begin(), keyed.end(), rows.begin(), [](const auto& each) { return each.second; });

@@ -32,10 +32,9 @@ struct FieldPlace {
 struct Field {
     std::string_view name;  ///< What the names of a run's columns begin with.
     FieldKind kind = FieldKind::text;
+    int base = 0;  ///< What a stored 0 means.
     /// Where it is stored, by row and by place in the run; none where the row lacks it. Unset where nothing is stored.
     std::optional<FieldPlace> (*place)(int row, int item) = nullptr;
-
-    int base = 0;  ///< What a stored 0 means.
     /// The numbers that the window has. A field too narrow for all of them holds fewer.
     int lowest = 0;
     int highest = 0;

@@ -15,18 +15,18 @@ namespace {
 using Place = decltype(Field::place);
 
 constexpr Field text(std::string_view name, Place place) {
-    return {name, FieldKind::text, place};
+    return {name, FieldKind::text, 0, place};
 }
 /// Numbers lowest..highest. What a stored 0 means is the lowest one unless told otherwise.
 constexpr Field number(std::string_view name, Place place, int lowest, int highest) {
-    return {name, FieldKind::number, place, lowest, lowest, highest};
+    return {name, FieldKind::number, lowest, place, lowest, highest};
 }
 constexpr Field number_from(int base, Field field) {
     field.base = base;
     return field;
 }
 constexpr Field choice(std::string_view name, Place place, std::span<const std::string_view> choices, int base = 0) {
-    return {name, FieldKind::choice, place, base, 0, 0, choices};
+    return {name, FieldKind::choice, base, place, 0, 0, choices};
 }
 constexpr Field skill(std::string_view name, Place place) {
     return number(name, place, lowest_skill, highest_skill);
@@ -78,7 +78,7 @@ constexpr Field player_fields[]{
 
 constexpr Field team_fields[]{
     text("short", team_name_place<NamePlace::short_name>),
-    {"full", FieldKind::wide_text, team_name_place<NamePlace::full_width>},
+    {"full", FieldKind::wide_text, 0, team_name_place<NamePlace::full_width>},
     run(1, name_table_count, text("t", table_name_place)),
 };
 
@@ -105,7 +105,7 @@ constexpr Field set_piece_fields[]{
 };
 
 constexpr Field link_fields[]{
-    run(1, roster_players, {"s", FieldKind::link, link_place}),
+    run(1, roster_players, {"s", FieldKind::link, 0, link_place}),
 };
 
 std::string id_of_player(int row) {
