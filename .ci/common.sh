@@ -46,7 +46,7 @@ need() {
 build_packages=(g++:g++ cmake:cmake ninja-build:ninja ccache:ccache libcli11-dev nlohmann-json3-dev libpugixml-dev
     qt6-base-dev qt6-svg-dev qt6-translations-l10n libgl-dev)
 run_packages=(libqt6svg6 libqt6svgwidgets6 fonts-dejavu-core)
-test_packages=(python3:python3 clang:clang++ libclang-rt-dev clang-format:clang-format clang-tidy:clang-tidy libgtest-dev
+test_packages=(python3:python3 clang:clang++ libclang-rt-dev lld:ld.lld clang-format:clang-format clang-tidy:clang-tidy libgtest-dev
     libbenchmark-dev binutils:readelf desktop-file-utils:desktop-file-validate appstream:appstreamcli dpkg-dev:dpkg-shlibdeps
     file:file lintian:lintian)
 

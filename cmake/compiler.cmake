@@ -8,6 +8,11 @@ if(KALCO_SANITIZE)
     add_compile_options(-fsanitize=${KALCO_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_link_options(-fsanitize=${KALCO_SANITIZE})
     add_compile_definitions(_GLIBCXX_ASSERTIONS)
+    # Dozens of programs with a sanitizer in each: the usual linker takes minutes for them.
+    find_program(KALCO_LLD ld.lld)
+    if(KALCO_LLD)
+        add_link_options(-fuse-ld=lld)
+    endif()
 endif()
 
 if(KALCO_COVERAGE)

@@ -12,12 +12,12 @@
 namespace kalco::ctl {
 namespace {
 
-constexpr auto name = "check";
+constexpr auto check_name = "check";
 
 }  // namespace
 
 CLI::App& add_check_command(CLI::App& app, CheckOptions& options) {
-    CLI::App& command = *app.add_subcommand(name, "Check the sectors' EDC and parities");
+    CLI::App& command = *app.add_subcommand(check_name, "Check the sectors' EDC and parities");
     command.add_option("IMAGE", options.image, "The image to check")->required();
     command.add_flag("--all", options.all, "Every sector, not only the 42 that hold the editor's tables");
     command.add_flag("--json", options.json, "Tell it as JSON, one object a line");
@@ -30,8 +30,8 @@ CLI::App& add_check_command(CLI::App& app, CheckOptions& options) {
 
 int run_check(const CheckOptions& options) {
     Image image(open_to_read);
-    open_image(image, options.image, name, options.all ? 0 : least_disc_sectors);
-    Progress progress(name, image.length() / sector_bytes);
+    open_image(image, options.image, check_name, options.all ? 0 : least_disc_sectors);
+    Progress progress(check_name, image.length() / sector_bytes);
     const SectorChoice choice = options.all ? SectorChoice() : sheet_sectors();
     const auto tell = [&](const check::BadSector& bad) {
         progress.hide();

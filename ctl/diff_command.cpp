@@ -16,7 +16,7 @@
 namespace kalco::ctl {
 namespace {
 
-constexpr auto name = "diff";
+constexpr auto diff_name = "diff";
 constexpr auto text_format = "text";
 
 void write_table(const std::vector<const Sheet*>& sheets, const std::vector<std::vector<FieldChange>>& changes,
@@ -45,7 +45,7 @@ void write_run(const ByteRun& run, bool json) {
 }  // namespace
 
 CLI::App& add_diff_command(CLI::App& app, DiffOptions& options) {
-    CLI::App& command = *app.add_subcommand(name, "Tell what two images differ in");
+    CLI::App& command = *app.add_subcommand(diff_name, "Tell what two images differ in");
     command.add_option("A", options.before, "The image to start from")->required();
     command.add_option("B", options.after, "The image to compare it with")->required();
     add_sheet_option(command, options.sheet);
@@ -69,8 +69,8 @@ int run_diff(const DiffOptions& options) {
 
     Image a(open_to_read);
     Image b(open_to_read);
-    open_image(a, options.before, name);
-    open_image(b, options.after, name);
+    open_image(a, options.before, diff_name);
+    open_image(b, options.after, diff_name);
     const DiscBytes before = read_sheets(a);
     const DiscBytes after = read_sheets(b);
     const std::vector<const Sheet*> sheets = chosen_sheets(options.sheet, format == TableFormat::csv);
@@ -89,7 +89,7 @@ int run_diff(const DiffOptions& options) {
     }
     if (!options.bytes) return same ? done : no;
     const std::vector<ByteRun> runs = [&] {
-        Progress progress(name, std::max(a.length(), b.length()));
+        Progress progress(diff_name, std::max(a.length(), b.length()));
         return other_differences(a, b, std::ref(progress));
     }();
     for (const ByteRun& run : runs) write_run(run, json);

@@ -13,18 +13,18 @@
 namespace kalco::ctl {
 namespace {
 
-constexpr std::string_view name = "import";
+constexpr std::string_view import_name = "import";
 
 void complain_of(const std::string& file, const TableMistake& mistake) {
     std::string place = file;
     if (mistake.row > 0) place += ':' + std::to_string(mistake.row) + ':' + mistake.column;
-    complain(name, place + ": " + mistake.what);
+    complain(import_name, place + ": " + mistake.what);
 }
 
 }  // namespace
 
 CLI::App& add_import_command(CLI::App& app, ImportCommandOptions& options) {
-    CLI::App& command = *app.add_subcommand(std::string(name), "Take tables into the image");
+    CLI::App& command = *app.add_subcommand(std::string(import_name), "Take tables into the image");
     command.add_option("IMAGE", options.image, "The image to change")->required();
     command.add_option("FILE", options.file, "CSV, FODS or JSON, as export and diff write them")->required();
     add_sheet_option(command, options.sheet);
@@ -55,7 +55,7 @@ int run_import(const ImportCommandOptions& options) {
     }
     if (!options.keep_undo.empty() && !options.force) refuse_patch_beside(options.keep_undo, {options.image});
     Edit edit(options.image, options.dry_run);
-    open_image(edit.image(), edit.path(), name);
+    open_image(edit.image(), edit.path(), import_name);
     UndoFile undo(options.keep_undo, edit);
     const DiscBytes before = read_sheets(edit.image());
     const ImportPlan plan = plan_import(before, tables, {options.sheet, options.force});

@@ -13,12 +13,12 @@
 namespace kalco::ctl {
 namespace {
 
-constexpr auto name = "repair";
+constexpr auto repair_name = "repair";
 
 }  // namespace
 
 CLI::App& add_repair_command(CLI::App& app, RepairOptions& options) {
-    CLI::App& command = *app.add_subcommand(name, "Renew the sectors' EDC and parities where they don't fit");
+    CLI::App& command = *app.add_subcommand(repair_name, "Renew the sectors' EDC and parities where they don't fit");
     command.add_option("IMAGE", options.image, "The image to repair")->required();
     command.add_flag("--all", options.all, "Every sector, not only the 42 that hold the editor's tables");
     command.add_flag("--dry-run", options.dry_run, "Tell everything, write nothing");
@@ -35,11 +35,11 @@ CLI::App& add_repair_command(CLI::App& app, RepairOptions& options) {
 
 int run_repair(const RepairOptions& options) {
     Edit edit(options.image, options.dry_run);
-    open_image(edit.image(), edit.path(), name, options.all ? 0 : least_disc_sectors);
+    open_image(edit.image(), edit.path(), repair_name, options.all ? 0 : least_disc_sectors);
     const SectorChoice choice = options.all ? SectorChoice() : sheet_sectors();
     Repair repair;
     {
-        Progress progress(name, edit.image().length() / sector_bytes);
+        Progress progress(repair_name, edit.image().length() / sector_bytes);
         repair = repair_image(edit.image(), choice, std::ref(progress));
     }
     edit.commit("Settori riparati");
