@@ -1,5 +1,7 @@
 #include <QApplication>
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QLabel>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -123,6 +125,30 @@ private Q_SLOTS:
     void help_and_version_need_no_display() {
         QVERIFY(run({QStringLiteral("--help")}).startsWith("Uso: kalco [IMMAGINE]"));
         QVERIFY(run({QStringLiteral("--version")}).startsWith("kalco "));
+    }
+
+    void closed_descriptors_never_become_the_image() {
+        const QString program = QString::fromStdString(home_.path()) + QStringLiteral("/kalco");
+        const QString image = QString::fromStdString(home_.image());
+        QVERIFY(QFile::copy(QStringLiteral(KALCO_PROGRAM), program));
+        const QByteArray before = QByteArray::fromStdString(home_.image_bytes());
+        QProcess process;
+        process.start(QStringLiteral("/bin/sh"),
+                      {QStringLiteral("-c"), QStringLiteral("exec \"$0\" \"$1\" <&- >&- 2>&-"), program, image});
+        QVERIFY(process.waitForStarted());
+        const QDir opened(QStringLiteral("/proc/%1/fd").arg(process.processId()));
+        const auto target_of = [&opened](int fd) { return QFile::symLinkTarget(opened.filePath(QString::number(fd))); };
+        const auto holds_image = [&] {
+            for (const QString& fd : opened.entryList(QDir::System | QDir::Files)) {
+                if (target_of(fd.toInt()) == QFileInfo(image).canonicalFilePath()) return true;
+            }
+            return false;
+        };
+        QTRY_VERIFY_WITH_TIMEOUT(holds_image(), 60000);
+        for (int fd = 0; fd <= 2; ++fd) QCOMPARE(target_of(fd), QStringLiteral("/dev/null"));
+        process.kill();
+        QVERIFY(process.waitForFinished());
+        QCOMPARE(QByteArray::fromStdString(home_.image_bytes()), before);
     }
 
 private:
