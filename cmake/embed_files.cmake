@@ -18,13 +18,13 @@ file(WRITE ${OUTPUT} "// Made of ${FOLDER} by cmake/embed_files.cmake.
 namespace kalco {
 namespace {
 
-constexpr std::array<EmbeddedFile, ${count}> files{{
+constexpr std::array<EmbeddedFile, ${count}> files_of_${FUNCTION}{{
 ${rows}}};
 
 }  // namespace
 
 std::span<const EmbeddedFile> ${FUNCTION}() {
-    return files;
+    return files_of_${FUNCTION};
 }
 
 }  // namespace kalco

@@ -73,7 +73,7 @@ std::string without_controls(std::string_view utf8) {
 }
 
 /// Bytes that others have written: UTF-8 or, where they are none, Latin-1, without control characters.
-std::string printable(std::string_view text) {
+std::string text_of_others(std::string_view text) {
     if (!broken_utf8(text)) return without_controls(text);
     std::string clean(text);
     std::replace_if(
@@ -127,20 +127,20 @@ std::string text_of_patch(const PpfPatch& patch) {
     const Range range = range_of(patch);
     std::string text = "kind: PPF " + std::to_string(patch.version()) + ".0";
     if (patch.version() == 3) text += std::string(", ") + kind_of_image(patch);
-    text += "\ndescription: " + printable(patch.description());
+    text += "\ndescription: " + text_of_others(patch.description());
     text += std::string("\nblock check: ") + (patch.block() ? "yes" : "no");
     text += std::string("\nundo: ") + (patch.has_undo() ? "yes" : "no");
     text += "\nrecords: " + std::to_string(patch.records().size());
     text += "\nbytes: " + std::to_string(patch.bytes());
     text += "\npositions: " + std::to_string(range.first) + " to " + std::to_string(range.last) + '\n';
-    if (patch.file_id()) text += "text at the end: " + printable(*patch.file_id()) + '\n';
+    if (patch.file_id()) text += "text at the end: " + text_of_others(*patch.file_id()) + '\n';
     return text;
 }
 
 std::string json_of_patch(const PpfPatch& patch) {
     const Range range = range_of(patch);
     const Json json{{"version", patch.version()},
-                    {"description", printable(patch.description())},
+                    {"description", text_of_others(patch.description())},
                     {"block_check", patch.block().has_value()},
                     {"undo", patch.has_undo()},
                     {"records", patch.records().size()},

@@ -30,7 +30,7 @@ constexpr std::array<Stranger, 3> strangers{{
     {"%PDF", "a PDF, no table"},
 }};
 
-constexpr std::size_t most_bytes = std::size_t{64} << 20;
+constexpr std::size_t most_file_bytes = std::size_t{64} << 20;
 
 std::string small_letters(std::string_view text) {
     std::string result(text);
@@ -86,7 +86,7 @@ Tables tables_of_file(std::string bytes) {
 }
 
 Tables read_tables(const std::string& path) {
-    return tables_of_file(read_file(path, most_bytes));
+    return tables_of_file(read_file(path, most_file_bytes));
 }
 
 }  // namespace kalco::ctl

@@ -17,9 +17,9 @@ namespace {
 
 /// What a file may hold, repeated cells spelt out. The whole disc needs 75,000
 /// cells with half a million bytes.
-constexpr std::size_t most_columns = 256;
+constexpr std::size_t most_cells_in_row = 256;
 constexpr std::size_t most_cells = 500'000;
-constexpr std::size_t most_bytes = 16'000'000;
+constexpr std::size_t most_cell_bytes = 16'000'000;
 /// More rows and columns than any spreadsheet has. Counting stops there.
 constexpr int most_rows = 1 << 30;
 constexpr int most_depth = 32;
@@ -102,7 +102,7 @@ private:
             const auto count = static_cast<std::size_t>(repeated(cell, "table:number-columns-repeated"));
             std::string text = plain ? content_of(cell) : std::string();
             if (!text.empty()) {
-                if (column + count > most_columns) throw TableError(row_, {}, "more than 256 columns");
+                if (column + count > most_cells_in_row) throw TableError(row_, {}, "more than 256 columns");
                 cells.resize(column);
                 cells.resize(column + count, text);
             }
@@ -122,7 +122,7 @@ private:
     void count_content(const std::vector<std::string>& cells) {
         amount_.cells += cells.size();
         for (const std::string& cell : cells) amount_.bytes += cell.size();
-        if (amount_.cells > most_cells || amount_.bytes > most_bytes) {
+        if (amount_.cells > most_cells || amount_.bytes > most_cell_bytes) {
             throw TableError(row_, {}, "more cells than the sheets of a disc have");
         }
     }

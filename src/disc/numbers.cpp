@@ -21,7 +21,7 @@ constexpr std::size_t fields_of_word(std::size_t word) {
     return word + 1 < StoredNumbers::words ? fields_in_word : fields_in_word - 1;
 }
 
-std::uint8_t byte_at(std::string_view record, std::size_t place) {
+std::uint8_t byte_or_zero(std::string_view record, std::size_t place) {
     return place < record.size() ? static_cast<std::uint8_t>(record[place]) : 0;
 }
 
@@ -58,13 +58,13 @@ StoredNumbers unpack_numbers(TeamRow row, std::string_view record) {
     StoredNumbers stored;
     if (!is_nation(row)) {
         for (std::size_t player = 0; player < stored.numbers.size(); ++player) {
-            stored.numbers[player] = byte_at(record, player) + 1;
+            stored.numbers[player] = byte_or_zero(record, player) + 1;
         }
         return stored;
     }
     for (std::size_t word = 0; word < StoredNumbers::words; ++word) {
         std::uint32_t bits = 0;
-        for (std::size_t byte = 4; byte-- > 0;) bits = bits << 8 | byte_at(record, 4 * word + byte);
+        for (std::size_t byte = 4; byte-- > 0;) bits = bits << 8 | byte_or_zero(record, 4 * word + byte);
         for (std::size_t field = 0; field < fields_of_word(word); ++field) {
             stored.numbers[word * fields_in_word + field] = static_cast<int>(bits & field_mask) + 1;
             bits >>= field_bits;

@@ -6,14 +6,14 @@
 namespace kalco {
 namespace {
 
-enum Table { t1, t2, t3, t4, t5, t6 };
+enum NameTable { t1, t2, t3, t4, t5, t6 };
 
 constexpr Team last_nation{nation_count - 1};
 constexpr Team last_club_team{default_list.value() - 1};
 
 /// A run of entries that lie below each other without a gap, one for each team.
 struct NameBlock {
-    Table table = t1;
+    NameTable table = t1;
     Team first_team;
     Team last_team;
     ImagePos first_position = 0;
@@ -34,7 +34,7 @@ constexpr std::array<NameBlock, 10> name_blocks{{
 
 /// Entries whose slot is wider than their length and terminator.
 struct WideSlot {
-    Table table = t1;
+    NameTable table = t1;
     Team team;
     int bytes = 0;
 };
@@ -47,11 +47,11 @@ constexpr const TeamFacts& facts_of(Team team) {
     return team_facts[team.place()];
 }
 
-constexpr int length_of(Team team, Table table) {
+constexpr int length_of(Team team, NameTable table) {
     return facts_of(team).name_lengths[static_cast<std::size_t>(table)];
 }
 
-constexpr int slot_bytes(Team team, Table table) {
+constexpr int slot_bytes(Team team, NameTable table) {
     for (const WideSlot& wide : wide_slots) {
         if (wide.table == table && wide.team == team) return wide.bytes;
     }
@@ -120,7 +120,7 @@ NameEntries Call_Name(Team team) {
     NameEntries entries;
     if (!team.exists()) return entries;
     for (std::size_t table = 0; table < entries.size(); ++table) {
-        const int length = length_of(team, static_cast<Table>(table));
+        const int length = length_of(team, static_cast<NameTable>(table));
         if (length > 0) entries[table] = NameEntry{name_positions[team.place()][table], length};
     }
     return entries;

@@ -13,7 +13,7 @@ namespace {
 
 /// How deep brackets and `not` may stand in each other.
 constexpr int most_levels = 200;
-constexpr std::string_view quote = "\"";
+constexpr std::string_view quote_mark = "\"";
 constexpr std::string_view signs = "()=!<>\"";
 
 enum class Sign { equal, other, less, less_or_equal, greater, greater_or_equal };
@@ -141,19 +141,19 @@ private:
     }
 
     std::string next_value(std::string_view name) {
-        if (!take(quote)) {
+        if (!take(quote_mark)) {
             const std::string_view word = next_word();
             if (word.empty()) throw ExpressionError(std::string(name) + " is compared with nothing");
             return std::string(word);
         }
         std::string value;
         for (;;) {
-            const auto end = rest_.find(quote);
+            const auto end = rest_.find(quote_mark);
             if (end == std::string_view::npos) throw ExpressionError("a quote is never closed");
             value += rest_.substr(0, end);
             rest_.remove_prefix(end + 1);
-            if (!rest_.starts_with(quote)) return value;
-            value += quote;
+            if (!rest_.starts_with(quote_mark)) return value;
+            value += quote_mark;
             rest_.remove_prefix(1);
         }
     }

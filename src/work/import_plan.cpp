@@ -11,7 +11,7 @@ namespace kalco {
 namespace {
 
 /// A cell in a complaint: quoted, and cut when it is very long.
-std::string quoted(std::string_view cell) {
+std::string in_quotes(std::string_view cell) {
     constexpr std::size_t most_bytes = 60;
     std::size_t length = 0;
     while (length < cell.size()) {
@@ -37,7 +37,7 @@ public:
         several_ = tables.size() > 1;
         for (const Table& table : tables) take(table);
         if (!options_.sheet.empty() && !tables.empty() && sheet_ == nullptr && plan_.mistakes.empty()) {
-            plan_.mistakes.push_back({0, {}, "it has no sheet " + quoted(options_.sheet)});
+            plan_.mistakes.push_back({0, {}, "it has no sheet " + in_quotes(options_.sheet)});
         }
         std::sort(plan_.changes.begin(), plan_.changes.end(), [](const FieldChange& a, const FieldChange& b) {
             return std::tie(a.sheet, a.row, a.column) < std::tie(b.sheet, b.row, b.column);
@@ -67,7 +67,7 @@ private:
         const int header_row = table.columns.empty() ? 1 : table.columns.front().row;
         sheet_ = sheet_named(sheet_name_);
         if (sheet_ == nullptr) {
-            plan_.mistakes.push_back({header_row, "sheet", "unknown sheet " + quoted(sheet_name_)});
+            plan_.mistakes.push_back({header_row, "sheet", "unknown sheet " + in_quotes(sheet_name_)});
             return;
         }
         const std::vector<Target> targets = targets_of(table);
@@ -103,14 +103,14 @@ private:
         const std::string_view id = row.cell(id_place);
         if (id.empty()) return complain(row.number, std::string(id_column), "the id is missing");
         const auto place = sheet_->row_of(id);
-        if (!place) return complain(row.number, std::string(id_column), "unknown id " + quoted(id));
+        if (!place) return complain(row.number, std::string(id_column), "unknown id " + in_quotes(id));
         if (!taken_.emplace(sheet_, *place).second) {
-            return complain(row.number, std::string(id_column), "twice the same id " + quoted(id));
+            return complain(row.number, std::string(id_column), "twice the same id " + in_quotes(id));
         }
         for (std::size_t cell = 0; cell < row.cells.size(); ++cell) {
             if (row.cells[cell].empty()) continue;
             if (cell >= targets.size() || targets[cell].nameless) {
-                complain(row.number, {}, "a value in a column without a name: " + quoted(row.cells[cell]));
+                complain(row.number, {}, "a value in a column without a name: " + in_quotes(row.cells[cell]));
             } else if (targets[cell].column != nullptr) {
                 take(row.number, *targets[cell].column, *place, row.cells[cell]);
             }
@@ -127,18 +127,18 @@ private:
         if (!place) {
             const std::string held = cell_at(disc_, column, row);
             if (cell == held || (takes_text(field) && cell == empty_text_cell)) return;
-            return complain(number, column.name, quoted(cell) + ": read-only here");
+            return complain(number, column.name, in_quotes(cell) + ": read-only here");
         }
         FieldValue before = stored_value(disc_, column, row);
         if (cell == cell_of(column, before)) return;
         CellReading reading = read_cell(column, *place, cell);
-        if (!reading.mistake.empty()) return complain(number, column.name, quoted(cell) + ": " + reading.mistake);
+        if (!reading.mistake.empty()) return complain(number, column.name, in_quotes(cell) + ": " + reading.mistake);
         if (reading.value == before) return;
         const FieldValue planned = stored_value(plan_.after, column, row);
         if (planned != before && planned != reading.value) {
             return complain(number, column.name,
-                            quoted(cell) + ": another row with the same record has " +
-                                quoted(cell_of(column, planned)));
+                            in_quotes(cell) + ": another row with the same record has " +
+                                in_quotes(cell_of(column, planned)));
         }
         store_value(plan_.after, column, row, reading.value);
         plan_.changes.push_back({sheet_, row, &column, std::move(before), std::move(reading.value)});

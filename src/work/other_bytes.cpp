@@ -12,7 +12,7 @@
 namespace kalco {
 namespace {
 
-SectorKind kind_of(std::string_view bytes) {
+SectorKind kind_of_bytes(std::string_view bytes) {
     if (bytes.size() != sector_bytes) return SectorKind::other;
     RawSector sector{};
     std::copy(bytes.begin(), bytes.end(), sector.begin());
@@ -26,9 +26,9 @@ public:
     /// A sector that is not the same in both, as far as they have it.
     void compare(std::int64_t number, std::string_view a, std::string_view b) {
         const auto known = known_bits().find(number);
-        const SectorKind kind = kind_of(a);
+        const SectorKind kind = kind_of_bytes(a);
         // Where the kinds differ the bytes don't mean the same in both.
-        const bool checked = kind == kind_of(b);
+        const bool checked = kind == kind_of_bytes(b);
         for (std::size_t byte = 0; byte < std::max(a.size(), b.size()); ++byte) {
             if (checked && is_check_byte(kind, byte)) continue;
             unsigned other = 0xFF;

@@ -7,11 +7,11 @@ namespace kalco {
 namespace {
 
 constexpr std::size_t stride = 8;
-using Table = std::array<std::uint32_t, 256>;
+using ByteTable = std::array<std::uint32_t, 256>;
 
 // Table k tells what a byte does to the rest once k more bytes have followed it, so that eight go at once.
-constexpr std::array<Table, stride> make_tables() {
-    std::array<Table, stride> tables{};
+constexpr std::array<ByteTable, stride> make_tables() {
+    std::array<ByteTable, stride> tables{};
     for (std::uint32_t value = 0; value < 256; ++value) {
         std::uint32_t rest = value;
         for (int bit = 0; bit < 8; ++bit) rest = (rest >> 1) ^ ((rest & 1U) != 0 ? 0xEDB88320U : 0U);

@@ -12,8 +12,8 @@
 namespace kalco {
 namespace {
 
-constexpr auto filter = "*.bfr|*.bfr";
-constexpr std::string_view extension = ".bfr";
+constexpr auto bars_filter = "*.bfr|*.bfr";
+constexpr std::string_view bars_extension = ".bfr";
 constexpr auto question =
     "S\xEC = Importa barre & formazione\r\nNo = Importa solo Barre\r\nAnnulla = Importa solo formazione";
 
@@ -45,7 +45,8 @@ TeamRow chosen_row(const frmKalco& form) {
 }  // namespace
 
 std::string bars_file_path(const frmKalco& form) {
-    return side_file_path(form.platform, directory::formations, upper(form.txtSqHEX2.text()) + std::string(extension));
+    return side_file_path(form.platform, directory::formations,
+                          upper(form.txtSqHEX2.text()) + std::string(bars_extension));
 }
 
 void cmdExport_Click(frmKalco& form) {
@@ -59,7 +60,7 @@ void cmdExport_Click(frmKalco& form) {
 void cmdImport_Click(frmKalco& form) {
     const TeamRow row = chosen_row(form);
     if (!has_bars(row)) return;
-    const std::string path = form.platform.open_dialog(filter, form.platform.program_directory());
+    const std::string path = form.platform.open_dialog(bars_filter, form.platform.program_directory());
     if (path.empty()) return;
     const std::string line = read_first_line(form.platform, path);
     const Answer answer = form.platform.message(question, Icon::warning, Buttons::yes_no_cancel);

@@ -9,8 +9,8 @@
 namespace kalco {
 namespace {
 
-constexpr auto filter = "*.kcp|*.kcp";
-constexpr std::string_view extension = ".kcp";
+constexpr auto kickers_filter = "*.kcp|*.kcp";
+constexpr std::string_view kickers_extension = ".kcp";
 
 /// False when the file could not be handled; the failure has been told.
 template <typename Steps>
@@ -27,7 +27,7 @@ bool with_file_route(frmKalco& form, Steps steps) {
 }  // namespace
 
 std::string kickers_file_path(const frmKalco& form) {
-    const std::string name = std::string(trim(form.txtAtt.text())).append(extension);
+    const std::string name = std::string(trim(form.txtAtt.text())).append(kickers_extension);
     return side_file_path(form.platform, directory::kickers, name);
 }
 
@@ -43,7 +43,7 @@ void cmdExpKick_Click(frmKalco& form) {
 void cmdImpKick_Click(frmKalco& form) {
     const TeamRow row(form.cboSquadra.row());
     if (!row.exists()) return;
-    const std::string path = form.platform.open_dialog(filter, form.platform.program_directory());
+    const std::string path = form.platform.open_dialog(kickers_filter, form.platform.program_directory());
     if (path.empty()) return;
     std::string line;
     if (!with_file_route(form, [&] { line = read_first_line(form.platform, path); })) return;

@@ -25,7 +25,7 @@ void show_linked_names(frmKalco& form, Club club) {
     for (; field <= form.txtNM.last(); ++field) form.txtNM(field).set_text(' ' + std::string(unknown_player));
 }
 
-void show_names(frmKalco& form, TeamRow row) {
+void show_takers(frmKalco& form, TeamRow row) {
     if (const auto club = club_of(row)) return show_linked_names(form, *club);
     for (int player = 0; player < set_piece_rows; ++player) {
         form.txtNM(player + 1).set_text(' ' + read_player_name(form.image, *place_of(row, player)));
@@ -61,7 +61,7 @@ void cboSquadra_Click(frmKalco& form) {
     if (!row.exists()) return;
     form.listAtt.select(row.value());
     form.txtAtt.set_text(' ' + form.listAtt.text());
-    show_names(form, row);
+    show_takers(form, row);
     form.txtHex.set_text(hex_digits(form.image.read(set_piece_field(row))));
     CAP_KICK(form);
     form.fraKick.set_enabled(true);

@@ -16,8 +16,8 @@
 namespace kalco {
 namespace {
 
-constexpr auto filter = "*.num|*.num";
-constexpr std::string_view extension = ".num";
+constexpr auto numbers_filter = "*.num|*.num";
+constexpr std::string_view numbers_extension = ".num";
 constexpr std::string_view nation_prefix = "NAZ_";
 constexpr std::string_view other_prefix = "ML_";
 constexpr int entry_length = 2;
@@ -64,7 +64,7 @@ bool has_number_without_cell(const std::vector<std::string>& entries) {
     return std::any_of(entries.begin(), entries.end(), [](const std::string& entry) { return entry.size() > 2; });
 }
 
-void show_names(frmKalco& form, TeamRow row) {
+void list_names(frmKalco& form, TeamRow row) {
     if (const auto club = club_of(row)) {
         form.ListName.assign(list_of_linked_names(form, *club));
     } else {
@@ -114,7 +114,7 @@ void show_change(frmKalco& form, int row, const NumberChange& change) {
 
 /// The steps of an import up to the reopening. False when no file was chosen.
 bool import_numbers(frmKalco& form) {
-    const std::string path = form.platform.open_dialog(filter, form.platform.program_directory());
+    const std::string path = form.platform.open_dialog(numbers_filter, form.platform.program_directory());
     if (path.empty()) return false;
     std::string line = read_first_line(form.platform, path);
     for (int i = 0; i < form.ListNum.count(); ++i) {
@@ -166,7 +166,7 @@ void cboSQNum_Click(frmKalco& form) {
     form.cmdExpNum.set_enabled(true);
     form.txtNumMod.set_text({});
     NAME_NATIONAL(form);
-    show_names(form, row);
+    list_names(form, row);
     form.ListNum.clear();
     for (const std::string& number : numbers) form.ListNum.add(number);
     for (int cell = form.lblNum.first(); cell <= form.lblNum.last(); ++cell) form.lblNum(cell).set_in_use(false);
@@ -235,7 +235,7 @@ void cmdSaveNum_Click(frmKalco& form) {
 std::string numbers_file_path(const frmKalco& form) {
     std::string name(is_nation(TeamRow(form.cboSQNum.row())) ? nation_prefix : other_prefix);
     name += upper(form.txtSqSel.text());
-    name += extension;
+    name += numbers_extension;
     return side_file_path(form.platform, directory::numbers, name);
 }
 

@@ -8,7 +8,7 @@ namespace kalco {
 namespace {
 
 /// The last team that SALV_IMP writes by itself; RoutLung2 goes on from there.
-constexpr Team last_team_saved_here{52};
+constexpr Team last_team_imported_here{52};
 
 ImportedPlayers players_of_lists(const frmKalco& form) {
     return {form.listDat.items(), form.listApp.items()};
@@ -24,7 +24,7 @@ void save_imported_team(frmKalco& form, Team team) {
 
 void SALV_IMP(frmKalco& form) {
     const Team team(form.cboSeqSQ.row());
-    if (team <= last_team_saved_here) {
+    if (team <= last_team_imported_here) {
         save_imported_team(form, team);
     } else {
         RoutLung2(form);

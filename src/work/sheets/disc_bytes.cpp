@@ -6,8 +6,6 @@
 namespace kalco {
 namespace {
 
-constexpr int byte_bits = 8;
-
 constexpr std::size_t sector_size = sector_bytes;
 
 }  // namespace

@@ -12,6 +12,8 @@
 
 namespace kalco {
 
+inline constexpr int byte_bits = 8;
+
 /// A field of bits in a stretch of bytes, the first byte's lowest bit counted as 0 and the next byte's as 8.
 struct BitRange {
     int first = 0;

@@ -7,8 +7,6 @@ namespace {
 
 using KnownSectors = std::unordered_map<std::int64_t, KnownBits>;
 
-constexpr int byte_bits = 8;
-
 /// The bits of a byte of a field that are its own.
 std::uint8_t own_bits(const FieldPlace& place, int byte) {
     if (place.bits.width == 0) return 0xFF;

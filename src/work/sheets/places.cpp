@@ -7,7 +7,6 @@
 namespace kalco {
 namespace {
 
-constexpr int byte_bits = 8;
 constexpr int word_bits = 32;
 
 /// `count` bytes of a field.

@@ -10,7 +10,7 @@
 namespace kalco {
 namespace {
 
-constexpr char hash = '#';
+constexpr char digits_mark = '#';
 /// A text of two quote characters can't stand in a cell as it is: there it empties the field.
 constexpr std::string_view two_quotes = "\"\"";
 
@@ -73,11 +73,11 @@ TextReading held_to(TextReading reading, int most_bytes) {
 }  // namespace
 
 std::string hash_form(std::string_view bytes) {
-    return hash + hex_digits(bytes);
+    return digits_mark + hex_digits(bytes);
 }
 
 std::optional<std::string> bytes_of_hash_form(std::string_view cell) {
-    if (cell.empty() || cell.front() != hash) return std::nullopt;
+    if (cell.empty() || cell.front() != digits_mark) return std::nullopt;
     const std::string_view digits = cell.substr(1);
     const bool whole = !digits.empty() && digits.size() % 2 == 0 &&
                        digits.find_first_not_of("0123456789ABCDEFabcdef") == std::string_view::npos;
@@ -86,7 +86,7 @@ std::optional<std::string> bytes_of_hash_form(std::string_view cell) {
 
 std::string cell_of_text(std::string_view bytes) {
     const std::string_view text = until_zero(bytes);
-    if (text.starts_with(hash) || text == two_quotes || has_control(text)) return hash_form(text);
+    if (text.starts_with(digits_mark) || text == two_quotes || has_control(text)) return hash_form(text);
     return utf8_of_latin1(text);
 }
 
@@ -97,7 +97,7 @@ std::string cell_of_wide_text(std::string_view bytes) {
 
 TextReading text_of_cell(std::string_view cell, int most_bytes) {
     if (cell == two_quotes) return {};
-    if (cell.starts_with(hash)) return held_to(text_of_digits(cell), most_bytes);
+    if (cell.starts_with(digits_mark)) return held_to(text_of_digits(cell), most_bytes);
     const auto bytes = latin1_of_utf8(cell);
     if (!bytes) return {{}, "a letter that the disc can't hold"};
     if (has_control(*bytes)) return {{}, "a control character, which can only be given as # and digits"};
@@ -106,7 +106,7 @@ TextReading text_of_cell(std::string_view cell, int most_bytes) {
 
 TextReading wide_text_of_cell(std::string_view cell, int most_bytes) {
     if (cell == two_quotes) return {};
-    if (cell.starts_with(hash)) return held_to(text_of_digits(cell), most_bytes);
+    if (cell.starts_with(digits_mark)) return held_to(text_of_digits(cell), most_bytes);
     const bool letters = std::all_of(cell.begin(), cell.end(), [](char c) { return c == ' ' || is_wide_letter(c); });
     if (!letters) return {{}, "a letter that the disc can't hold: a full-width name has A to Z, a to z and full stops"};
     if (!is_wide_name(cell)) return {{}, "blanks stand one by one, between letters"};

@@ -17,7 +17,7 @@
 namespace kalco {
 namespace {
 
-constexpr char hash = '#';
+constexpr char stored_mark = '#';
 
 /// A number of at most 9 decimal digits; none for any other text.
 std::optional<int> whole_number(std::string_view text) {
@@ -35,12 +35,12 @@ constexpr int most_stored(BitRange bits) {
 
 std::string cell_of_number(const Field& field, unsigned stored) {
     const int shown = static_cast<int>(stored) + field.base;
-    return shown < field.lowest || shown > field.highest ? hash + std::to_string(stored) : std::to_string(shown);
+    return shown < field.lowest || shown > field.highest ? stored_mark + std::to_string(stored) : std::to_string(shown);
 }
 
 std::string cell_of_choice(const Field& field, unsigned stored) {
     const auto place = static_cast<std::size_t>(static_cast<int>(stored) - field.base);
-    return place < field.choices.size() ? utf8_of_latin1(field.choices[place]) : hash + std::to_string(stored);
+    return place < field.choices.size() ? utf8_of_latin1(field.choices[place]) : stored_mark + std::to_string(stored);
 }
 
 std::string cell_of_link(std::string_view code) {
@@ -65,7 +65,7 @@ CellReading read_stored(BitRange bits, std::string_view cell) {
 }
 
 CellReading read_number(const Field& field, BitRange bits, std::string_view cell) {
-    if (cell.front() == hash) return read_stored(bits, cell);
+    if (cell.front() == stored_mark) return read_stored(bits, cell);
     const int highest = std::min(field.highest, field.base + most_stored(bits));
     const std::string range = std::to_string(field.lowest) + " to " + std::to_string(highest);
     const auto number = whole_number(cell);
@@ -75,7 +75,7 @@ CellReading read_number(const Field& field, BitRange bits, std::string_view cell
 }
 
 CellReading read_choice(const Field& field, BitRange bits, std::string_view cell) {
-    if (cell.front() == hash) return read_stored(bits, cell);
+    if (cell.front() == stored_mark) return read_stored(bits, cell);
     const auto text = latin1_of_utf8(cell);
     const auto found = text ? std::find(field.choices.begin(), field.choices.end(), *text) : field.choices.end();
     if (found == field.choices.end()) return wrong("not in the list of values");
