@@ -20,11 +20,7 @@ foreach(part kalco_ctl kalco_script)
     target_link_libraries(${part} PUBLIC nlohmann_json::nlohmann_json CLI11::CLI11 PRIVATE kalco_warnings)
 endforeach()
 
-# The two header-only libraries take longer to read, and what is made of their templates longer to compile, than the
-# sources that use them.
-if(KALCO_UNITY)
-    set_target_properties(kalco_ctl kalco_script PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 8)
-endif()
+compile_together(kalco_ctl kalco_script)
 if(KALCO_PCH)
     target_precompile_headers(kalco_ctl PRIVATE <CLI/CLI.hpp> <nlohmann/json.hpp>)
     target_precompile_headers(kalco_script REUSE_FROM kalco_ctl)
