@@ -30,7 +30,7 @@ QString Draft::told() const {
 
 bool same(const Draft& one, const Draft& other) {
     return one.title == other.title && std::equal(one.changes.begin(), one.changes.end(), other.changes.begin(),
-                                                  other.changes.end(), [](const FieldChange& a, const FieldChange& b) {
+                                                  other.changes.end(), [](const DraftChange& a, const DraftChange& b) {
                                                       return a.field == b.field && a.before == b.before &&
                                                              a.after == b.after;
                                                   });

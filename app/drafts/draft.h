@@ -9,7 +9,7 @@
 namespace kalco::app {
 
 /// A field that shows something else than the image, or the file, holds.
-struct FieldChange {
+struct DraftChange {
     QString field;  ///< In small letters, "velocità".
     QString before;
     QString after;
@@ -20,7 +20,7 @@ struct FieldChange {
 struct Draft {
     QString title;  ///< "Modifiche a Rossi non salvate".
     QString owner;  ///< "Rossi".
-    std::vector<FieldChange> changes;
+    std::vector<DraftChange> changes;
     /// Goes back to where the changes were made and makes them again, by actions of the user.
     std::function<void()> make_again;
 

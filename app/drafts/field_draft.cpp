@@ -11,8 +11,8 @@ void FieldDraft::take_fields() {
     for (Field& field : fields_) field.filled = text_of(*field.control);
 }
 
-std::vector<FieldChange> FieldDraft::changes() const {
-    std::vector<FieldChange> result;
+std::vector<DraftChange> FieldDraft::changes() const {
+    std::vector<DraftChange> result;
     for (const Field& field : fields_) {
         const std::string& text = text_of(*field.control);
         if (text != field.filled) {

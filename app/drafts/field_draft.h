@@ -18,7 +18,7 @@ protected:
 
     /// The fields stand as they were filled.
     void take_fields();
-    std::vector<FieldChange> changes() const;
+    std::vector<DraftChange> changes() const;
     /// Types the texts of the changes into their fields, as they stand now.
     std::function<void()> typing(frmKalco& form) const;
 

@@ -79,7 +79,7 @@ private:
     struct Row {
         int row;
         std::string digits;  ///< What it is to hold.
-        std::vector<FieldChange> changes;
+        std::vector<DraftChange> changes;
     };
 
     Draft draft_of(const std::vector<Row>& rows);

@@ -18,7 +18,7 @@ QString hint_with(const QString& own, const QString& before) {
 void FieldMarks::show(const Draft& draft) {
     std::erase_if(own_hints_, [&](const auto& marked) {
         QWidget* const widget = marked.first;
-        const bool stays = std::any_of(draft.changes.begin(), draft.changes.end(), [&](const FieldChange& change) {
+        const bool stays = std::any_of(draft.changes.begin(), draft.changes.end(), [&](const DraftChange& change) {
             return change.control != nullptr && binder_.widget_of(*change.control) == widget;
         });
         if (stays) return false;
@@ -26,7 +26,7 @@ void FieldMarks::show(const Draft& draft) {
         widget->setToolTip(marked.second);
         return true;
     });
-    for (const FieldChange& change : draft.changes) {
+    for (const DraftChange& change : draft.changes) {
         if (change.control == nullptr) continue;
         QWidget* const widget = binder_.widget_of(*change.control);
         const auto [place, fresh] = own_hints_.try_emplace(widget, widget->toolTip());
