@@ -56,7 +56,7 @@ private Q_SLOTS:
         t.click(t.form().cmdNew);
         QVERIFY(t.failure != nullptr);
         QVERIFY(t.binder().over());
-        QVERIFY_EXCEPTION_THROWN(std::rethrow_exception(t.failure), RuntimeError);
+        QVERIFY_THROWS_EXCEPTION(RuntimeError, std::rethrow_exception(t.failure));
         bool acted = false;
         t.binder().act([&] { acted = true; });
         QVERIFY(!acted);
