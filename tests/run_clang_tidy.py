@@ -5,9 +5,9 @@ BUILD holds compile_commands.json. A file is skipped when nothing that its last 
 project's headers below it, the forms, .clang-tidy, the compile command and clang-tidy itself. The clean runs are
 remembered in BUILD/tidy.
 
-Most of the time goes into the headers that every file includes. So files that are compiled alike are looked at a batch
-at a time, as one source that includes them all. A batch with a finding, or one whose files can't stand in one source,
-is looked at again file by file: what is printed is always what a file alone gives.
+Nearly all the time goes into the headers that every file includes. So files that are compiled alike are looked at
+together, as one source that includes them all. A batch with a finding, or one whose files can't stand in one source, is
+halved until a file is alone: what is printed is always what a file alone gives.
 """
 import argparse
 import concurrent.futures
@@ -21,8 +21,8 @@ import subprocess
 import sys
 
 ROOT = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
-FOLDERS = ("src", "ctl", "app")
-BATCH = 8
+# The one that takes longest begins.
+FOLDERS = ("ctl", "app", "src")
 # In a batch the sources are included files. That they are sources is the one thing not to be told.
 BATCH_OPTIONS = ["--header-filter=/(src|ctl|app)/[^.]*\\.(h|cpp)$", "--checks=-bugprone-suspicious-include"]
 INCLUDE = re.compile(rb'^[ \t]*#[ \t]*include[ \t]*"([^"]+)"', re.MULTILINE)
@@ -88,14 +88,25 @@ def flags_of(entry):
 
 
 def batches_of(files, commands, jobs):
-    """Files that are compiled alike, a few at a time; enough batches for all jobs."""
+    """Files that are compiled alike, together; in parts when there are more jobs than kinds of files. Single files, which
+    fill the end, come last."""
     alike = {}
     for path in files:
         alike.setdefault(tuple(flags_of(commands[path])), []).append(path)
-    size = max(1, min(BATCH, len(files) // (2 * jobs)))
-    for group in alike.values():
+    for group in sorted(alike.values(), key=lambda group: len(group) == 1):
+        size = -(-len(group) // max(1, jobs // 2))
         for start in range(0, len(group), size):
             yield group[start:start + size]
+
+
+def left_alone(batch, is_clean):
+    """The files of a batch that can't be told clean together with others."""
+    if len(batch) == 1:
+        return batch
+    if is_clean(batch):
+        return []
+    middle = len(batch) // 2
+    return left_alone(batch[:middle], is_clean) + left_alone(batch[middle:], is_clean)
 
 
 def main():
@@ -107,9 +118,9 @@ def main():
 
     with open(os.path.join(options.build, "compile_commands.json"), encoding="utf-8") as file:
         commands = {entry["file"]: entry for entry in json.load(file)}
-    tops = tuple(os.path.join(ROOT, folder) + os.sep for folder in FOLDERS)
+    tops = [os.path.join(ROOT, folder) + os.sep for folder in FOLDERS]
     wanted = {os.path.abspath(name) for name in options.files}
-    sources = sorted(p for p in commands if p.startswith(tops) and (not wanted or p in wanted))
+    sources = [p for top in tops for p in sorted(commands) if p.startswith(top) and (not wanted or p in wanted)]
 
     hasher = Hasher([os.path.join(ROOT, folder) for folder in ("src", "", "app", "ctl")]
                     + glob.glob(os.path.join(options.build, "*_autogen", "include")))
@@ -137,10 +148,8 @@ def main():
 
     def lint(batch):
         """The results of the files that are not clean."""
-        bad = []
-        if len(batch) == 1 or not is_clean_batch(batch):
-            results = [(path, tidy("-p", options.build, path)) for path in batch]
-            bad = [(path, result) for path, result in results if result.returncode != 0]
+        results = [(path, tidy("-p", options.build, path)) for path in left_alone(batch, is_clean_batch)]
+        bad = [(path, result) for path, result in results if result.returncode != 0]
         unclean = {path for path, _ in bad}
         for path in batch:
             if path not in unclean:
