@@ -1,11 +1,9 @@
 #include "app/kalco_window.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QFileInfo>
-#include <QMenuBar>
 #include <QMimeData>
 #include <QScreen>
 #include <QScrollArea>
@@ -15,10 +13,11 @@
 
 #include "app/done.h"
 #include "app/drafts/drafts.h"
-#include "app/help/manual.h"
 #include "app/image_bar.h"
+#include "app/menus.h"
 #include "app/pending.h"
 #include "app/readable.h"
+#include "app/saves_stack.h"
 #include "app/status_line.h"
 #include "app/tabs/formations_tab.h"
 #include "app/tabs/kickers_tab.h"
@@ -26,7 +25,11 @@
 #include "app/tabs/numbers_tab.h"
 #include "app/tabs/players_tab.h"
 #include "app/tabs/transfers_tab.h"
+#include "app/tools/message.h"
+#include "app/tools/sectors/sectors_button.h"
+#include "app/tools/tools.h"
 #include "app/widgets/notice.h"
+#include "app/window_desk.h"
 #include "editor/window/user.h"
 #include "ui_tab0.h"
 #include "ui_tab1.h"
@@ -74,12 +77,12 @@ QSize first_size(const QScreen& screen) {
 
 KalcoWindow::KalcoWindow(frmKalco& form) : form_(form) {
     build();
-    build_menu();
     binder_ = std::make_unique<Binder>(form_, *this);
     drafts_ = std::make_unique<Drafts>(form_);
     done_ = std::make_unique<DoneWatch>(form_, drafts_->listeners());
     add_tabs();
     connect_keys();
+    build_tools();
     connect(binder_.get(), &Binder::synced, this, &KalcoWindow::refresh);
     connect(image_bar_, &ImageBar::reopen_wanted, this, &KalcoWindow::image_wanted);
     refresh();
@@ -117,13 +120,17 @@ void KalcoWindow::build() {
     resize(first_size(*screen()));
 }
 
-void KalcoWindow::build_menu() {
-    QMenu* const help = menuBar()->addMenu(QStringLiteral("&Aiuto"));
-    QAction* const manual = help->addAction(QStringLiteral("&Manuale"));
-    manual->setShortcut(QKeySequence(Qt::Key_F1));
-    connect(manual, &QAction::triggered, this, &KalcoWindow::show_manual);
-    QAction* const about = help->addAction(QStringLiteral("&Informazioni su Kalco"));
-    connect(about, &QAction::triggered, this, [this] { show_about(this); });
+void KalcoWindow::build_tools() {
+    desk_ = std::make_unique<WindowDesk>(*binder_, drafts_->listeners(), *status_);
+    tools_ = std::make_unique<Tools>(*desk_, *this);
+    saves_ = std::make_unique<SavesStack>(*binder_);
+    saves_->on_failure = [this](const QString& why) {
+        tell_failure(this, QStringLiteral("Niente è stato cambiato: %1.").arg(why));
+    };
+    menus_ = std::make_unique<Menus>(*this, *binder_, *saves_, *tools_);
+    auto* const sectors = new SectorsButton(*desk_);
+    connect(sectors, &QPushButton::clicked, this, [this] { tools_->sectors(); });
+    status_->addPermanentWidget(sectors);
 }
 
 void KalcoWindow::add_tabs() {
@@ -140,7 +147,6 @@ void KalcoWindow::connect_keys() {
     const auto on_key = [this](const QString& key, auto step) {
         connect(new QShortcut(QKeySequence(key), this), &QShortcut::activated, this, step);
     };
-    on_key(QStringLiteral("Ctrl+O"), [this] { binder_->act([this] { user::click(form_, form_.cmdOpen); }); });
     on_key(QStringLiteral("Ctrl+S"), [this] { save_shown_tab(); });
     for (int tab = tab::players; tab <= tab::numbers; ++tab) {
         on_key(QStringLiteral("Ctrl+%1").arg(tab + 1),
@@ -160,15 +166,6 @@ void KalcoWindow::save_shown_tab() {
         for (CommandButton* button : buttons) pressed |= user::click(form_, *button) == user::Outcome::done;
     });
     if (!pressed && !binder_->over()) status_->tell(QStringLiteral("Qui non c'è niente da salvare"));
-}
-
-void KalcoWindow::show_manual() {
-    if (auto* const open = findChild<Manual*>()) {
-        open->raise();
-        open->activateWindow();
-        return;
-    }
-    (new Manual(this))->show();
 }
 
 void KalcoWindow::start() {
@@ -191,6 +188,7 @@ void KalcoWindow::refresh() {
         pending_->show_notice(pending_text(form_));
     }
     for (const auto& tab : tabs_) tab->refresh();
+    if (menus_) menus_->refresh();
 }
 
 void KalcoWindow::tell_what_happened() {

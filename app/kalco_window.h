@@ -13,9 +13,13 @@ namespace kalco::app {
 class DoneWatch;
 class Drafts;
 class ImageBar;
+class Menus;
 class Notice;
+class SavesStack;
 class StatusLine;
 class Tab;
+class Tools;
+class WindowDesk;
 
 /// The window: the six tabs below the image's row, a notice of what is pending, and the line that tells what was done.
 class KalcoWindow : public QMainWindow {
@@ -43,11 +47,10 @@ protected:
 
 private:
     void build();
-    void build_menu();
+    void build_tools();
     void add_tabs();
     void connect_keys();
     void save_shown_tab();
-    void show_manual();
     void refresh();
     void tell_what_happened();
     void show_whether_open();
@@ -61,6 +64,10 @@ private:
     std::unique_ptr<Drafts> drafts_;
     std::unique_ptr<DoneWatch> done_;
     std::vector<std::unique_ptr<Tab>> tabs_;  ///< In the order of the pages.
+    std::unique_ptr<WindowDesk> desk_;
+    std::unique_ptr<Tools> tools_;
+    std::unique_ptr<SavesStack> saves_;
+    std::unique_ptr<Menus> menus_;
     bool shown_open_ = true;
 };
 

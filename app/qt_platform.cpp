@@ -9,6 +9,7 @@
 #include <QStandardPaths>
 #include <utility>
 
+#include "app/file_dialogs.h"
 #include "app/text.h"
 #include "editor/window/side_file.h"
 #include "editor/window/system_directories.h"
@@ -87,18 +88,10 @@ std::string QtPlatform::open_dialog(const std::string& filter, const std::string
     if (const auto choice = std::exchange(next_choice_, std::nullopt)) return choice->toStdString();
     if (before_dialog) before_dialog();
     QFileDialog dialog(parent());
-    dialog.setOption(QFileDialog::DontUseNativeDialog);
-    dialog.setOption(QFileDialog::ReadOnly);
-    dialog.setWindowTitle(QStringLiteral("Apri"));
-    dialog.setFileMode(QFileDialog::ExistingFile);
+    prepare_file_dialog(dialog, QStringLiteral("Apri"));
     dialog.setDirectory(QString::fromStdString(initial_directory));
     dialog.setNameFilters(name_filters(qt_text(filter)));
     dialog.setSidebarUrls(side_bar(dialog.sidebarUrls()));
-    dialog.setLabelText(QFileDialog::LookIn, QStringLiteral("Cerca in:"));
-    dialog.setLabelText(QFileDialog::FileName, QStringLiteral("&Nome file:"));
-    dialog.setLabelText(QFileDialog::FileType, QStringLiteral("Tipo di file:"));
-    dialog.setLabelText(QFileDialog::Accept, QStringLiteral("&Apri"));
-    dialog.setLabelText(QFileDialog::Reject, QStringLiteral("Annulla"));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
     return dialog.selectedFiles().constFirst().toStdString();
 }

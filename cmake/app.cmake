@@ -14,7 +14,7 @@ set_target_properties(kalco_app PROPERTIES
 target_include_directories(kalco_app PUBLIC ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/app)
 # The window model has a member named as one of Qt's macros.
 target_compile_definitions(kalco_app PUBLIC QT_NO_KEYWORDS KALCO_VERSION="${PROJECT_VERSION}")
-target_link_libraries(kalco_app PUBLIC kalco_editor kalco_work Qt6::Core Qt6::Gui Qt6::Widgets Qt6::Svg Qt6::SvgWidgets
+target_link_libraries(kalco_app PUBLIC kalco_editor kalco_ctl Qt6::Core Qt6::Gui Qt6::Widgets Qt6::Svg Qt6::SvgWidgets
                                 PRIVATE kalco_warnings)
 compile_together(kalco_app)
 if(KALCO_PCH)

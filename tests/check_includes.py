@@ -47,7 +47,7 @@ cassert cctype cerrno cfenv cfloat cinttypes climits clocale cmath csetjmp csign
 cstdlib cstring ctime cuchar cwchar cwctype
 """.split())
 # The exclusive open of the image has no standard form: the system's own headers, in sources of disc/image/ only.
-SYSTEM = {"fcntl.h", "sys/file.h", "sys/stat.h", "sys/types.h", "unistd.h", "windows.h", "io.h", "share.h"}
+SYSTEM = {"fcntl.h", "sys/file.h", "sys/ioctl.h", "linux/fs.h", "sys/stat.h", "sys/types.h", "unistd.h", "windows.h", "io.h", "share.h"}
 # What a processor offers beyond the language, in sources of work/check/ only.
 PROCESSOR = {"immintrin.h"}
 

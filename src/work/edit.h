@@ -34,9 +34,7 @@ public:
     Image& image() { return image_; }
     bool dry_run() const { return dry_run_; }
 
-    /// Renews EDC and parities of the changed sectors whose fields all fitted before; in other sectors they stay as
-    /// they are. Gives every sector that changes, with the renewed fields. Throws FileError when the image's length
-    /// would be another one.
+    /// All that a save would change, with EDC and parities as kalco::settle() renews them. Throws FileError.
     std::vector<SectorChange> settle();
 
     /// Settles, then brings the changes to the disk as one save. Does nothing when there are none. Throws FileError.

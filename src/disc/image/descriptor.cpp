@@ -57,6 +57,10 @@ int Descriptor::truncate(std::int64_t size) const {
     return -after_signals([&] { return files_->truncate(descriptor_, size); });
 }
 
+int Descriptor::share_blocks_of(const Descriptor& source) const {
+    return -after_signals([&] { return files_->share_blocks(descriptor_, source.descriptor_); });
+}
+
 int Descriptor::sync() const {
     const int failure = -after_signals([this] { return files_->sync(descriptor_); });
     // What can't be synced, such as some devices, has no more to give.

@@ -32,6 +32,8 @@ public:
     int read(std::span<char> bytes, std::int64_t offset, std::size_t& got) const;
     int write(std::string_view bytes, std::int64_t offset) const;
     int truncate(std::int64_t size) const;
+    /// Takes over the source's blocks, where both are of one file system that can.
+    int share_blocks_of(const Descriptor& source) const;
     int sync() const;
 
 private:

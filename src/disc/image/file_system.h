@@ -42,6 +42,8 @@ public:
     virtual std::int64_t read(int fd, char* to, std::size_t bytes, std::int64_t offset) = 0;
     virtual std::int64_t write(int fd, const char* from, std::size_t bytes, std::int64_t offset) = 0;
     virtual int truncate(int fd, std::int64_t size) = 0;
+    /// Makes a new file one of the other's blocks, without copying them. Most file systems can't.
+    virtual int share_blocks(int /*to*/, int /*from*/) { return -ENOTSUP; }
     virtual int sync(int fd) = 0;
     virtual int remove(const std::string& path) = 0;
     /// The absolute path without links; the path itself when it can't be found out.

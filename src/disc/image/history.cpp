@@ -13,6 +13,13 @@ std::size_t size_of(const Save& save) {
 
 }  // namespace
 
+std::vector<std::string> History::texts() const {
+    std::vector<std::string> texts;
+    texts.reserve(saves_.size());
+    for (const Save& save : saves_) texts.push_back(save.what);
+    return texts;
+}
+
 std::optional<std::string> History::undo() {
     return undo_text() == nullptr ? std::nullopt : go(true);
 }

@@ -27,6 +27,11 @@ public:
     const std::string* undo_text() const { return undone_ == saves_.size() ? nullptr : &saves_[last()].what; }
     const std::string* redo_text() const { return undone_ == 0 ? nullptr : &saves_[last() + 1].what; }
 
+    /// What the saves were, the oldest first, and how many of them stand; those behind are taken back.
+    std::vector<std::string> texts() const;
+    std::size_t size() const { return saves_.size(); }
+    std::size_t standing() const { return saves_.size() - undone_; }
+
     /// Takes back the last save that still stands, and gives what it was; nothing when there is none. Everything is
     /// forgotten when another program has changed one of its sectors meanwhile. Errors as for Image::commit; the
     /// history then stays as it was.

@@ -21,6 +21,8 @@ public:
     NewFile& operator=(const NewFile&) = delete;
 
     void write(std::string_view bytes);
+    /// Makes it a copy of another file without writing, before the first write. False where that can't be done.
+    bool share_blocks_of(const Descriptor& source) const { return file_->share_blocks_of(source) == 0; }
 
     enum class Existing { replace, keep };
     /// Brings everything to the disk, gives the file its name and brings that to the disk. With `keep`, a file that has

@@ -1,7 +1,11 @@
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#if __has_include(<linux/fs.h>)
+#include <linux/fs.h>
+#endif
 
 #include <cerrno>
 #include <cstdlib>
@@ -86,9 +90,22 @@ public:
         const ssize_t put = ::pwrite(fd, from, bytes, offset);
         return put < 0 ? -errno : put;
     }
-    int truncate(int fd, std::int64_t size) override { return result_of(::ftruncate(fd, size)); }
-    int sync(int fd) override { return result_of(::fsync(fd)); }
-    int remove(const std::string& path) override { return result_of(::unlink(path.c_str())); }
+    int share_blocks(int to, int from) override {
+#ifdef FICLONE
+        return result_of(::ioctl(to, FICLONE, from));
+#else
+        return FileSystem::share_blocks(to, from);
+#endif
+    }
+    int truncate(int fd, std::int64_t size) override {
+        return result_of(::ftruncate(fd, size));
+    }
+    int sync(int fd) override {
+        return result_of(::fsync(fd));
+    }
+    int remove(const std::string& path) override {
+        return result_of(::unlink(path.c_str()));
+    }
 
     std::string resolved(const std::string& path) override {
         const std::unique_ptr<char, decltype(&std::free)> real(::realpath(path.c_str(), nullptr), &std::free);

@@ -1,0 +1,72 @@
+#include "app/file_dialogs.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QRegularExpression>
+
+#include "app/tools/message.h"
+
+namespace kalco::app {
+namespace {
+
+void prepare(QFileDialog& dialog, const QString& title, const QStringList& filters, const QString& start) {
+    prepare_file_dialog(dialog, title);
+    dialog.setNameFilters(filters);
+    const QFileInfo file(start);
+    dialog.setDirectory(file.isDir() ? start : file.path());
+}
+
+QString chosen(QFileDialog& dialog) {
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
+    return dialog.selectedFiles().constFirst();
+}
+
+/// The first ending of a filter: "csv" of "CSV (*.csv *.txt)".
+QString ending_of(const QString& filter) {
+    static const QRegularExpression ending(QStringLiteral("\\*\\.(\\w+)"));
+    return ending.match(filter).captured(1);
+}
+
+}  // namespace
+
+void prepare_file_dialog(QFileDialog& dialog, const QString& title) {
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setOption(QFileDialog::ReadOnly);
+    dialog.setWindowTitle(title);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    dialog.setLabelText(QFileDialog::LookIn, QStringLiteral("Cerca in:"));
+    dialog.setLabelText(QFileDialog::FileName, QStringLiteral("&Nome file:"));
+    dialog.setLabelText(QFileDialog::FileType, QStringLiteral("Tipo di file:"));
+    dialog.setLabelText(QFileDialog::Accept, QStringLiteral("&Apri"));
+    dialog.setLabelText(QFileDialog::Reject, QStringLiteral("Annulla"));
+}
+
+QString choose_existing_file(QWidget* parent, const QString& title, const QStringList& filters, const QString& start) {
+    QFileDialog dialog(parent);
+    prepare(dialog, title, filters, start);
+    return chosen(dialog);
+}
+
+QString choose_new_file(QWidget* parent, const QString& title, const QStringList& filters, const QString& start) {
+    QFileDialog dialog(parent);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    prepare(dialog, title, filters, start);
+    dialog.setOption(QFileDialog::ReadOnly, false);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    dialog.setLabelText(QFileDialog::Accept, QStringLiteral("&Salva"));
+    if (!QFileInfo(start).isDir()) dialog.selectFile(QFileInfo(start).fileName());
+    for (;;) {
+        QString path = chosen(dialog);
+        if (path.isEmpty()) return {};
+        const QString ending = ending_of(dialog.selectedNameFilter());
+        if (QFileInfo(path).suffix().isEmpty() && !ending.isEmpty()) path += u'.' + ending;
+        if (!QFileInfo::exists(path)) return path;
+        if (ask(parent, QStringLiteral("Il file «%1» c'è già.").arg(QFileInfo(path).fileName()),
+                QStringLiteral("Sostituisci"))) {
+            return path;
+        }
+    }
+}
+
+}  // namespace kalco::app
