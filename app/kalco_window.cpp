@@ -124,9 +124,7 @@ void KalcoWindow::build_tools() {
     desk_ = std::make_unique<WindowDesk>(*binder_, drafts_->listeners(), *status_);
     tools_ = std::make_unique<Tools>(*desk_, *this);
     saves_ = std::make_unique<SavesStack>(*binder_);
-    saves_->on_failure = [this](const QString& why) {
-        tell_failure(this, QStringLiteral("Niente è stato cambiato: %1.").arg(why));
-    };
+    saves_->on_failure = [this](const QString& text) { tell_failure(this, text); };
     menus_ = std::make_unique<Menus>(*this, *binder_, *saves_, *tools_);
     auto* const sectors = new SectorsButton(*desk_);
     connect(sectors, &QPushButton::clicked, this, [this] { tools_->sectors(); });

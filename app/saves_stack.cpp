@@ -40,23 +40,26 @@ void SavesStack::travel(bool back) {
     if (following_) return;
     travelling_ = true;
     QString why;
+    bool done = false;
     binder_.act([&] {
         frmKalco& form = binder_.form();
+        const std::size_t standing = history_.standing();
         try {
             const bool expected = (back ? history_.undo_text() : history_.redo_text()) != nullptr;
-            const auto what = back ? user::undo(form) : user::redo(form);
-            if (!what) {
-                if (expected) why = QStringLiteral("un altro programma ha cambiato gli stessi settori");
-                return;
-            }
+            done = (back ? user::undo(form) : user::redo(form)).has_value();
+            if (expected && !done) why = QStringLiteral("un altro programma ha cambiato gli stessi settori");
         } catch (const std::exception& failure) {
             why = words_of(failure);
-            return;
+            // The very last step of a save can fail when the save stands already.
+            done = history_.standing() != standing;
         }
-        user::read_anew(form);
+        if (done) user::read_anew(form);
     });
     travelling_ = false;
-    if (!why.isEmpty() && on_failure) on_failure(why);
+    if (why.isEmpty() || !on_failure) return;
+    const QString outcome =
+        done ? QStringLiteral("È fatto, ma con un errore: %1.") : QStringLiteral("Niente è stato cambiato: %1.");
+    on_failure(outcome.arg(why));
 }
 
 void SavesStack::follow() {

@@ -17,8 +17,8 @@ public:
     explicit SavesStack(Binder& binder);
     ~SavesStack() override;
 
-    /// Told when a save can't be taken back or made again: nothing was written.
-    std::function<void(const QString& why)> on_failure;
+    /// Told when a save can't be taken back or made again.
+    std::function<void(const QString& text)> on_failure;
 
 private:
     friend class SaveCommand;

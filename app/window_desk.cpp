@@ -1,7 +1,10 @@
 #include "app/window_desk.h"
 
+#include <utility>
+
 #include "app/status_line.h"
 #include "app/text.h"
+#include "app/tools/message.h"
 #include "app/tools/words.h"
 #include "editor/window/user.h"
 #include "work/settle.h"
@@ -28,27 +31,25 @@ QString WindowDesk::path() const {
 Desk::Saved WindowDesk::save(QWidget* parent, const QString& what, const Steps& steps) {
     Saved saved;
     saved.failure = QStringLiteral("Kalco sta facendo altro");
-    Image& image = form_.image;
-    const auto write = [&] {
-        if (!run_job(parent, what, [&](Job& job) { steps(image, job); })) return false;
-        settle(image, form_.ImagePath);
-        const bool changes = !image.changes().empty();
-        image.commit(model_text(what));
-        return changes;
-    };
     binder_.act([&] {
         saved.failure.clear();
+        committed_ = false;
         try {
-            saved.changed = write();
+            if (run_job(parent, what, [&](Job& job) { steps(form_.image, job); })) {
+                settle(form_.image, form_.ImagePath);
+                form_.image.commit(model_text(what));
+            }
         } catch (const std::exception& failure) {
             saved.failure = words_of(failure);
         }
-        if (saved.changed) {
-            user::read_anew(form_);
-        } else if (image.is_open()) {
-            image.discard();
-        }
+        form_.image.discard();
+        saved.changed = committed_;
+        if (committed_) user::read_anew(form_);
     });
+    // The very last step of a save can fail when the save stands already.
+    if (saved.changed && !saved.failure.isEmpty()) {
+        tell_failure(parent, QStringLiteral("È fatto, ma con un errore: %1.").arg(std::exchange(saved.failure, {})));
+    }
     return saved;
 }
 

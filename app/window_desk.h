@@ -23,13 +23,14 @@ public:
     void tell(const QString& text) override;
 
 private:
-    void committed(const Save& /*save*/) override { changed_ = true; }
+    void committed(const Save& /*save*/) override { changed_ = committed_ = true; }
     void announce();
 
     Binder& binder_;
     frmKalco& form_;
     StatusLine& status_;
-    bool changed_ = false;
+    bool changed_ = false;    ///< Something that was not announced yet.
+    bool committed_ = false;  ///< The save that goes on.
     bool was_open_ = false;
 };
 

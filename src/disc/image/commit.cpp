@@ -51,15 +51,13 @@ void with_way_back(Steps steps, After after) {
 
 }  // namespace
 
-void commit_save(Storage& storage, const Save& save) {
+bool commit_save(Storage& storage, const Save& save) {
     const bool journal = storage.keep_journal(save);
     const auto back = [&] { take_back(storage, save, journal); };
     with_way_back([&] { write_sectors(storage, save); }, back);
     with_way_back([&] { storage.flush(); }, [&] { take_back_unflushed(storage, save); });
-    if (!journal) return;
-    with_way_back([&] { storage.remove_journal(); }, back);
-    // The save stands now, whatever comes.
-    storage.sync_directory();
+    if (journal) with_way_back([&] { storage.remove_journal(); }, back);
+    return journal;
 }
 
 }  // namespace kalco

@@ -6,7 +6,7 @@
 namespace kalco {
 
 /// Brings a save to the disk. When anything on the way fails, the image is put back as it was and the failure is
-/// thrown.
-void commit_save(Storage& storage, const Save& save);
+/// thrown. True when there was a journal: that it is gone is for sync_directory() to bring to the disk.
+bool commit_save(Storage& storage, const Save& save);
 
 }  // namespace kalco

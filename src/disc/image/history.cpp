@@ -35,17 +35,16 @@ std::optional<std::string> History::go(bool back) {
         forget();
         return std::nullopt;
     }
-    going_ = true;
+    going_ = back;
+    const std::string what = save.what;
     try {
-        image_.commit((back ? "Annullato: " : "Ripetuto: ") + save.what);
+        image_.commit((back ? "Annullato: " : "Ripetuto: ") + what);
     } catch (...) {
-        going_ = false;
+        going_.reset();
         throw;
     }
-    going_ = false;
-    back ? ++undone_ : --undone_;
-    announce();
-    return save.what;
+    going_.reset();
+    return what;
 }
 
 void History::forget() {
@@ -55,7 +54,10 @@ void History::forget() {
 }
 
 void History::committed(const Save& save) {
-    if (going_) return;
+    if (going_) {
+        *going_ ? ++undone_ : --undone_;
+        return announce();
+    }
     for (; undone_ > 0; --undone_) {
         bytes_ -= size_of(saves_.back());
         saves_.pop_back();

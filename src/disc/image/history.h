@@ -59,7 +59,7 @@ private:
     std::deque<Save> saves_;
     std::size_t undone_ = 0;  ///< How many at the end are taken back.
     std::size_t bytes_ = 0;
-    bool going_ = false;
+    std::optional<bool> going_;  ///< On the way back or forth.
 };
 
 }  // namespace kalco

@@ -115,8 +115,10 @@ void Image::commit_to(Storage& target, std::string_view what) {
     // Whatever comes of it, the save is over.
     buffer_.begin(0);
     if (save.empty()) return;
-    commit_save(target, save);
+    const bool journal = commit_save(target, save);
     for (ImageObserver* const observer : observers_) observer->committed(save);
+    // A failure here is told, but the save stands.
+    if (journal) target.sync_directory();
 }
 
 }  // namespace kalco

@@ -9,6 +9,7 @@
 #include <QtTest/qtestkeyboard.h>
 #include <QtTest/qtestmouse.h>
 #include <stdexcept>
+#include <utility>
 
 #include "app/style.h"
 #include "app/widgets/rows_view.h"
@@ -59,7 +60,8 @@ std::string DemoHome::image_bytes() const {
     return file.readAll().toStdString();
 }
 
-TestWindow::TestWindow(const std::string& image, const std::string& home) {
+TestWindow::TestWindow(const std::string& image, const std::string& home, StorageOpener opener)
+    : editor(platform, std::move(opener)) {
     platform.home = home;
     platform.choices.push_back(image);
     binder().on_failure = [this](const std::exception_ptr& thrown) { failure = thrown; };

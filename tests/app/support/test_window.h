@@ -29,12 +29,12 @@ private:
 /// An editor on an image file with its real window, shown and active.
 class TestWindow {
 public:
-    explicit TestWindow(const std::string& image, const std::string& home = ".");
+    explicit TestWindow(const std::string& image, const std::string& home = ".", StorageOpener opener = open_file);
     explicit TestWindow(const DemoHome& home) : TestWindow(home.image(), home.path()) {}
     ~TestWindow();
 
     FakePlatform platform;
-    Editor editor{platform};
+    Editor editor;
     app::KalcoWindow window{editor.form};
     /// What a failed action threw.
     std::exception_ptr failure;
