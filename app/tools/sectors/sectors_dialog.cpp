@@ -15,6 +15,8 @@
 namespace kalco::app {
 namespace {
 
+constexpr int row_padding = 6;
+
 /// More sectors than the history of saves holds, with their bytes before and after.
 constexpr std::size_t most_undone = History::most_bytes / (2 * sector_bytes + sizeof(SectorChange));
 
@@ -40,6 +42,7 @@ SectorsDialog::SectorsDialog(Desk& desk, QWidget* parent)
     ui_->setupUi(this);
     ui_->tableSectors->setModel(&rows_);
     ui_->tableSectors->verticalHeader()->hide();
+    ui_->tableSectors->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + row_padding);
     ui_->tableSectors->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     ui_->tableSectors->horizontalHeader()->setStretchLastSection(true);
     connect(ui_->buttonRepair, &QPushButton::clicked, this, &SectorsDialog::repair);

@@ -1,11 +1,13 @@
-// window_picture IMAGE OUT.png [TAB] [dark] [unsaved] [dropped] [pending] [lost]: a picture of the window with a team
-// chosen on the tab, with something changed on it, with that dropped, with an import that waits, with the path lost in
-// a cancelled dialog. An image that is not there gives the window without one.
+// window_picture IMAGE OUT.png [TAB] [dark] [unsaved] [dropped] [pending] [lost] [menu MENU ITEM]: a picture of the
+// window, or of the tool that the item opens, with a team chosen on the tab, with something changed on it, with that
+// dropped, with an import that waits, with the path lost in a cancelled dialog. An image that is not there gives the
+// window without one.
 
 #include <QApplication>
 #include <QPixmap>
 #include <iostream>
 
+#include "app/support/dialogs.h"
 #include "app/support/test_window.h"
 #include "editor/window/user.h"
 
@@ -114,7 +116,8 @@ int main(int argc, char** argv) {
     const QApplication app(argc, argv);
     const QStringList arguments = QApplication::arguments();
     if (arguments.size() < 3) {
-        std::cerr << "window_picture IMAGE OUT.png [TAB] [dark] [unsaved] [dropped] [pending] [lost]\n";
+        std::cerr
+            << "window_picture IMAGE OUT.png [TAB] [dark] [unsaved] [dropped] [pending] [lost] [menu MENU ITEM]\n";
         return 2;
     }
     const auto wanted = [&arguments](const char* word) { return arguments.contains(QString::fromLatin1(word)); };
@@ -139,5 +142,13 @@ int main(int argc, char** argv) {
         }
     }
     QApplication::processEvents();
-    return test.window.grab().save(arguments[2]) ? 0 : 1;
+    QWidget* shown = &test.window;
+    if (const qsizetype menu = arguments.indexOf(QStringLiteral("menu")); menu > 0) {
+        test::choose_menu(test.window, arguments.value(menu + 1), arguments.value(menu + 2));
+        QApplication::processEvents();
+        for (QWidget* const top : QApplication::topLevelWidgets()) {
+            if (top->isVisible() && top != &test.window) shown = top;
+        }
+    }
+    return shown->grab().save(arguments[2]) ? 0 : 1;
 }

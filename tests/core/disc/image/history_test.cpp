@@ -51,6 +51,63 @@ TEST_F(Past, TakesSavesBackOneByOneAndMakesThemAgain) {
     EXPECT_EQ(history.redo(), std::nullopt);
 }
 
+TEST_F(Past, ListsItsSaves) {
+    EXPECT_EQ(history.size(), 0U);
+    save(5, "first", "one");
+    save(5, "second", "two");
+    save(5, "third", "three");
+    history.undo();
+    EXPECT_EQ(history.texts(), (std::vector<std::string>{"one", "two", "three"}));
+    EXPECT_EQ(history.size(), 3U);
+    EXPECT_EQ(history.standing(), 2U);
+    history.forget();
+    EXPECT_TRUE(history.texts().empty());
+    EXPECT_EQ(history.standing(), 0U);
+}
+
+/// A disk that fails once a save stands: the journal is gone, and only that is not on the disk.
+class LateFailure final : public Storage {
+public:
+    LateFailure(test::Disc& disc, const bool& fails) : below_(disc), fails_(fails) {}
+
+    std::string read(std::int64_t offset, std::size_t bytes) override { return below_.read(offset, bytes); }
+    void write(std::int64_t offset, std::string_view bytes) override { below_.write(offset, bytes); }
+    std::int64_t size() override { return below_.size(); }
+    void truncate(std::int64_t size) override { below_.truncate(size); }
+    void flush() override { below_.flush(); }
+    bool keep_journal(const Save& /*save*/) override { return true; }
+    void sync_directory() override {
+        if (fails_) throw RuntimeError(error::device_io);
+    }
+
+private:
+    test::MemoryStorage below_;
+    const bool& fails_;
+};
+
+TEST(LatePast, CountsAStepThatStandsAlthoughItFailed) {
+    test::Disc disc;
+    disc.bytes = test::pattern(30 * 2352);
+    bool fails = false;
+    Image image([&](const std::string&) { return std::make_unique<LateFailure>(disc, fails); });
+    History history(image);
+    image.open("disc.bin");
+    const std::string start = disc.bytes;
+    fails = true;
+    image.write(5, "first");
+    EXPECT_THROW(image.commit("one"), RuntimeError);
+    EXPECT_EQ(history.standing(), 1U);
+    const std::string saved = disc.bytes;
+    EXPECT_THROW(history.undo(), RuntimeError);
+    EXPECT_EQ(disc.bytes, start);
+    EXPECT_EQ(history.standing(), 0U);
+    EXPECT_THROW(history.redo(), RuntimeError);
+    EXPECT_EQ(disc.bytes, saved);
+    fails = false;
+    EXPECT_EQ(history.undo(), Text("one"));
+    EXPECT_EQ(disc.bytes, start);
+}
+
 TEST_F(Past, ForgetsWhatWasTakenBackAtTheNextSave) {
     save(5, "first", "one");
     save(5, "second", "two");
