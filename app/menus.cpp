@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QMainWindow>
 #include <QMenuBar>
+#include <QShortcut>
 #include <utility>
 
 #include "app/help/manual.h"
@@ -43,6 +44,11 @@ Menus::Menus(QMainWindow& window, Binder& binder, SavesStack& saves, Tools& tool
     QMenu& help = *bar.addMenu(QStringLiteral("&Aiuto"));
     add(help, QStringLiteral("&Manuale"), QKeySequence(Qt::Key_F1), [this] { show_manual(); });
     add(help, QStringLiteral("&Informazioni su Kalco"), {}, [this] { show_about(&window_); });
+    auto* const key = new QShortcut(QKeySequence(Qt::Key_F10), &window);
+    connect(key, &QShortcut::activated, &bar, [&bar] {
+        bar.setFocus(Qt::MenuBarFocusReason);
+        bar.setActiveAction(bar.actions().constFirst());
+    });
     refresh();
 }
 

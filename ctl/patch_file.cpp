@@ -54,8 +54,9 @@ UndoFile::UndoFile(std::string path, Edit& edit) : path_(std::move(path)), edit_
 }
 
 void UndoFile::commit(std::string_view what) {
+    if (path_.empty() || edit_.dry_run()) return edit_.commit(what);
     const std::vector<SectorChange> changes = edit_.settle();
-    if (path_.empty() || edit_.dry_run() || changes.empty()) return edit_.commit(what);
+    if (changes.empty()) return;
     NewFile file(path_);
     file.write(patch_of_changes(block_, changes, "Undo"));
     file.finish(NewFile::Existing::keep);

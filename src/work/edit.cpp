@@ -5,11 +5,12 @@
 namespace kalco {
 
 std::vector<SectorChange> Edit::settle() {
-    return kalco::settle(image_, path_);
+    kalco::settle(image_, path_);
+    return image_.changes();
 }
 
 void Edit::commit(std::string_view what) {
-    settle();
+    kalco::settle(image_, path_);
     if (!dry_run_) image_.commit(what);
 }
 

@@ -17,8 +17,9 @@ RawSector raw_sector(std::string_view bytes) {
 
 }  // namespace
 
-std::vector<SectorChange> settle(Image& image, const std::string& path) {
-    for (const SectorChange& change : image.changes()) {
+void settle(Image& image, const std::string& path) {
+    for (const std::int64_t number : image.changed_sectors()) {
+        const SectorChange change = image.change(number);
         if (change.before.size() != change.after.size()) {
             throw FileError(path, change.position(), "a change beyond the image's end");
         }
@@ -28,7 +29,6 @@ std::vector<SectorChange> settle(Image& image, const std::string& path) {
         renew_checks(sector);
         image.write(change.position(), {reinterpret_cast<const char*>(sector.data()), sector.size()});
     }
-    return image.changes();
 }
 
 }  // namespace kalco

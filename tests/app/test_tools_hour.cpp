@@ -1,4 +1,5 @@
 #include <QAction>
+#include <QMenu>
 #include <QMenuBar>
 #include <QtTest>
 
@@ -44,6 +45,29 @@ private Q_SLOTS:
         make_again(t);
         t.pick_row(t.form().listDat, 9);
         QCOMPARE(t.form().cboVel.text(), saved);
+    }
+
+    void the_keyboard_alone_reaches_every_menu() {
+        test::TestWindow t(*home_);
+        const std::string before = home_->image_bytes();
+        save_player(t, 9, 3);
+        QTest::keyClick(&t.window, Qt::Key_F10);
+        QStringList seen;
+        for (int menu = 0; menu < 4; ++menu) {
+            auto* const list = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            QVERIFY(list != nullptr);
+            seen << list->title().remove(u'&');
+            if (menu < 3) QTest::keyClick(list, Qt::Key_Right);
+        }
+        QCOMPARE(seen.join(u' '), QStringLiteral("File Modifica Strumenti Aiuto"));
+        for (int menu = 0; menu < 2; ++menu) QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Left);
+        QWidget* const edit = QApplication::activePopupWidget();
+        QTest::keyClick(edit, Qt::Key_Down);
+        if (qobject_cast<QMenu*>(edit)->activeAction() != qobject_cast<QMenu*>(edit)->actions().constFirst()) {
+            QTest::keyClick(edit, Qt::Key_Up);
+        }
+        QTest::keyClick(edit, Qt::Key_Return);
+        QVERIFY(home_->image_bytes() == before);
     }
 
     void the_key_inside_a_text_field_is_the_fields() {

@@ -1,6 +1,5 @@
 #include "app/tools/sectors/bad_sectors_model.h"
 
-#include <QLocale>
 #include <utility>
 
 #include "disc/image/position.h"
@@ -9,6 +8,10 @@ namespace kalco::app {
 namespace {
 
 enum Column { number, time, position, fields, columns };
+
+QVariant alignment(int column) {
+    return QVariant((column == fields ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+}
 
 }  // namespace
 
@@ -27,10 +30,7 @@ int BadSectorsModel::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant BadSectorsModel::data(const QModelIndex& index, int role) const {
-    if (role == Qt::TextAlignmentRole) {
-        return QVariant(index.column() == fields ? Qt::AlignLeft | Qt::AlignVCenter
-                                                 : Qt::AlignRight | Qt::AlignVCenter);
-    }
+    if (role == Qt::TextAlignmentRole) return alignment(index.column());
     if (role != Qt::DisplayRole) return {};
     const check::BadSector& sector = sectors_.at(static_cast<std::size_t>(index.row()));
     switch (index.column()) {
@@ -42,6 +42,7 @@ QVariant BadSectorsModel::data(const QModelIndex& index, int role) const {
 }
 
 QVariant BadSectorsModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (orientation == Qt::Horizontal && role == Qt::TextAlignmentRole) return alignment(section);
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
     switch (section) {
         case number: return QStringLiteral("Settore");

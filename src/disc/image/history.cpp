@@ -62,6 +62,8 @@ void History::committed(const Save& save) {
         bytes_ -= size_of(saves_.back());
         saves_.pop_back();
     }
+    // One that is too large leaves nothing that could be taken back, and is not copied for that.
+    if (size_of(save) > limit_) return forget();
     saves_.push_back(save);
     bytes_ += size_of(save);
     while (bytes_ > limit_) {

@@ -111,9 +111,8 @@ bool Image::exchange(const Save& save, bool back) {
 
 void Image::commit_to(Storage& target, std::string_view what) {
     if (buffer_.empty()) return;
-    const Save save = buffer_.save(what);
-    // Whatever comes of it, the save is over.
-    buffer_.begin(0);
+    // Whatever comes of it, the buffer is over.
+    const Save save = buffer_.release(what);
     if (save.empty()) return;
     const bool journal = commit_save(target, save);
     for (ImageObserver* const observer : observers_) observer->committed(save);

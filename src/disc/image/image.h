@@ -62,6 +62,9 @@ public:
     std::int64_t length() const;
     /// The sectors that are not as they were at the last commit, in rising order.
     std::vector<SectorChange> changes() const { return buffer_.changes(); }
+    std::vector<std::int64_t> changed_sectors() const { return buffer_.changed_sectors(); }
+    /// One of them.
+    SectorChange change(std::int64_t sector) const { return buffer_.change(sector); }
 
     /// Brings the writes since the last commit to the disk: all of them, or none and the error is told (57, 61, 75).
     /// Nothing happens when no byte is another one. `what` tells the user what was saved.

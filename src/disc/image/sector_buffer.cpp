@@ -61,19 +61,49 @@ void SectorBuffer::overlay(std::int64_t offset, std::span<char> bytes) const {
     }
 }
 
-std::vector<SectorChange> SectorBuffer::changes() const {
-    std::vector<SectorChange> changed;
-    for (const auto& [sector, held] : sectors_) {
-        const std::int64_t offset = sector * sector_bytes;
-        const std::string_view before = within(held.before, offset, length_before_);
-        const std::string_view after = within(held.now, offset, length_);
-        if (before != after) changed.push_back({sector, std::string(before), std::string(after)});
+std::string_view SectorBuffer::before(const Sectors::value_type& held) const {
+    return within(held.second.before, held.first * sector_bytes, length_before_);
+}
+
+std::string_view SectorBuffer::now(const Sectors::value_type& held) const {
+    return within(held.second.now, held.first * sector_bytes, length_);
+}
+
+std::vector<std::int64_t> SectorBuffer::changed_sectors() const {
+    std::vector<std::int64_t> changed;
+    for (const auto& held : sectors_) {
+        if (before(held) != now(held)) changed.push_back(held.first);
     }
     return changed;
 }
 
-Save SectorBuffer::save(std::string_view what) const {
-    return {std::string(what), changes(), length_before_, length_};
+SectorChange SectorBuffer::change(std::int64_t sector) const {
+    const auto& held = *sectors_.find(sector);
+    return {sector, std::string(before(held)), std::string(now(held))};
+}
+
+std::vector<SectorChange> SectorBuffer::changes() const {
+    std::vector<SectorChange> changed;
+    for (const std::int64_t sector : changed_sectors()) changed.push_back(change(sector));
+    return changed;
+}
+
+Save SectorBuffer::release(std::string_view what) {
+    Save save{std::string(what), {}, length_before_, length_};
+    // A disc that changes in every sector is twice as many bytes: they are never there two times.
+    while (!sectors_.empty()) {
+        auto held = sectors_.begin();
+        const std::size_t bytes_before = before(*held).size();
+        const std::size_t bytes_now = now(*held).size();
+        if (before(*held) != now(*held)) {
+            held->second.before.resize(bytes_before);
+            held->second.now.resize(bytes_now);
+            save.sectors.push_back({held->first, std::move(held->second.before), std::move(held->second.now)});
+        }
+        sectors_.erase(held);
+    }
+    begin(0);
+    return save;
 }
 
 }  // namespace kalco

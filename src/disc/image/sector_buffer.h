@@ -32,9 +32,13 @@ public:
     /// Puts what is held over bytes that were read from below.
     void overlay(std::int64_t offset, std::span<char> bytes) const;
 
-    /// The sectors that are not as they were.
+    /// The sectors that are not as they were, in rising order.
+    std::vector<std::int64_t> changed_sectors() const;
+    /// One that is held.
+    SectorChange change(std::int64_t sector) const;
     std::vector<SectorChange> changes() const;
-    Save save(std::string_view what) const;
+    /// Everything that is held becomes a save, which takes the bytes over; the buffer is over then.
+    Save release(std::string_view what);
 
 private:
     /// Both have a whole sector's bytes; those beyond the image's end are zero.
@@ -42,8 +46,12 @@ private:
         std::string before;
         std::string now;
     };
+    using Sectors = std::map<std::int64_t, Held>;
 
-    std::map<std::int64_t, Held> sectors_;
+    std::string_view before(const Sectors::value_type& held) const;
+    std::string_view now(const Sectors::value_type& held) const;
+
+    Sectors sectors_;
     std::int64_t length_before_ = 0;
     std::int64_t length_ = 0;
 };

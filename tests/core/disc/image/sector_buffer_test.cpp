@@ -58,12 +58,15 @@ TEST_F(Buffered, DropsSectorsThatAreAsTheyWere) {
     over(std::string(3 * whole, 'a'));
     write(5, "aaa");
     EXPECT_TRUE(buffer.changes().empty());
-    EXPECT_TRUE(buffer.save("nothing").empty());
+    EXPECT_TRUE(buffer.release("nothing").empty());
+    EXPECT_TRUE(buffer.empty());
+    over(std::string(3 * whole, 'a'));
     write(5, "x");
     write(sector_bytes, "y");
     write(5, "a");
     ASSERT_EQ(buffer.changes().size(), 1U);
     EXPECT_EQ(buffer.changes()[0].sector, 1);
+    EXPECT_EQ(buffer.changed_sectors(), std::vector<std::int64_t>{1});
 }
 
 TEST_F(Buffered, GrowsWithItsImage) {
@@ -71,7 +74,7 @@ TEST_F(Buffered, GrowsWithItsImage) {
     EXPECT_EQ(buffer.length(), 3);
     write(5, std::string(2, '\0'));
     EXPECT_EQ(buffer.length(), 7);
-    const Save save = buffer.save("zeroes");
+    const Save save = buffer.release("zeroes");
     EXPECT_FALSE(save.empty());
     ASSERT_EQ(save.sectors.size(), 1U);
     EXPECT_EQ(save.sectors[0], (SectorChange{0, "abc", std::string("abc\0\0\0\0", 7)}));
@@ -82,7 +85,7 @@ TEST_F(Buffered, GrowsWithItsImage) {
 TEST_F(Buffered, LeavesOutTheSectorsBetweenTheEndAndAWriteBehindIt) {
     over("abc");
     write(5 * sector_bytes + 1, "x");
-    const Save save = buffer.save("far");
+    const Save save = buffer.release("far");
     ASSERT_EQ(save.sectors.size(), 1U);
     EXPECT_EQ(save.sectors[0], (SectorChange{5, "", std::string("\0x", 2)}));
     EXPECT_EQ(save.length_after, 5 * sector_bytes + 2);
@@ -93,7 +96,7 @@ TEST_F(Buffered, CutsItsImage) {
     write(sector_bytes, "BCD");
     buffer.set_length(sector_bytes + 1);
     EXPECT_EQ(read(sector_bytes, 3), std::string("B\0\0", 3));
-    const Save save = buffer.save("cut");
+    const Save save = buffer.release("cut");
     ASSERT_EQ(save.sectors.size(), 1U);
     EXPECT_EQ(save.sectors[0], (SectorChange{1, "bcd", "B"}));
 }
@@ -128,7 +131,7 @@ TEST_F(Buffered, IsWhatThePlainFileWouldBe) {
             expected.resize(3000, '\0');
             ASSERT_EQ(read(static_cast<std::int64_t>(place), 3000), expected);
         }
-        const Save save = buffer.save("all");
+        const Save save = buffer.release("all");
         std::string committed = start;
         committed.resize(static_cast<std::size_t>(save.length_after), '\0');
         for (const SectorChange& change : save.sectors) {
