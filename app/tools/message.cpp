@@ -16,18 +16,18 @@ void prepare(QMessageBox& box, QMessageBox::Icon icon, const QString& text) {
 
 }  // namespace
 
-void tell_failure(QWidget* parent, const QString& text, const QString& more) {
+void tell_failure(QWidget* parent, const QString& text, QStringView more) {
     QMessageBox box(parent);
     prepare(box, QMessageBox::Warning, text);
-    box.setInformativeText(more);
+    box.setInformativeText(more.toString());
     box.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
     box.exec();
 }
 
-bool ask(QWidget* parent, const QString& question, const QString& doing) {
+bool ask(QWidget* parent, const QString& question, QStringView doing) {
     QMessageBox box(parent);
     prepare(box, QMessageBox::Question, question);
-    const auto* const yes = box.addButton(doing, QMessageBox::AcceptRole);
+    const auto* const yes = box.addButton(doing.toString(), QMessageBox::AcceptRole);
     QPushButton* const no = box.addButton(QStringLiteral("Annulla"), QMessageBox::RejectRole);
     box.setDefaultButton(no);
     box.setEscapeButton(no);
