@@ -4,6 +4,7 @@
 #include <QPushButton>
 #include <algorithm>
 
+#include "app/short_roles.h"
 #include "app/text.h"
 #include "app/widgets/portrait_view.h"
 #include "disc/numbers.h"
@@ -14,9 +15,6 @@
 namespace kalco::app {
 namespace {
 
-/// As on the pitch, by the order of role_texts.
-constexpr std::array<const char*, role_texts.size()> short_roles{"P", "DC", "TER", "CC", "CL", "CO", "CA", "AL"};
-
 QString short_role(const std::string& entry) {
     try {
         const auto groups = groups_of_entry(entry);
@@ -24,7 +22,7 @@ QString short_role(const std::string& entry) {
             decode_player({word_of_group(groups[0]), word_of_group(groups[1]), word_of_group(groups[2])});
         const auto* const found = std::ranges::find(role_texts, player.role.value_or(std::string()));
         if (found == role_texts.end()) return {};
-        return QString::fromLatin1(short_roles.at(static_cast<std::size_t>(found - role_texts.begin())));
+        return qt_text(short_roles.at(static_cast<std::size_t>(found - role_texts.begin())));
     } catch (const RuntimeError&) {
         return {};
     }

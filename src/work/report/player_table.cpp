@@ -4,35 +4,11 @@
 #include <array>
 #include <string_view>
 
+#include "work/report/skill_headings.h"
 #include "work/sheets/ids.h"
 
 namespace kalco {
 namespace {
-
-struct SkillHeading {
-    std::string_view shown;
-    std::string_view whole;
-};
-
-/// By Skill.
-constexpr std::array<SkillHeading, skill_count> skill_headings{{
-    {"Att", "Attacco"},
-    {"Dif", "Difesa"},
-    {"Equ", "Equilibrio"},
-    {"Res", "Resistenza"},
-    {"Vel", "Velocità"},
-    {"Acc", "Accelerazione"},
-    {"Pas", "Passaggi"},
-    {"Pot", "Potenza tiro"},
-    {"Pre", "Precisione tiro"},
-    {"Ele", "Elevazione"},
-    {"Tes", "Colpi di testa"},
-    {"Tec", "Tecnica"},
-    {"Dri", "Dribbling"},
-    {"Cur", "Curvare tiri"},
-    {"Pos", "Positivo"},
-    {"Rea", "Reazione"},
-}};
 
 /// The columns behind the skills.
 struct Columns {

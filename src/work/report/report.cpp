@@ -117,16 +117,10 @@ std::string completed(std::string name, const std::vector<std::string>& names) {
     return name;
 }
 
-/// Reads everything about a team but its players' records.
-class TeamReader {
+/// Reads a team's names and who its players are.
+class RosterReader {
 public:
-    explicit TeamReader(const DiscBytes& disc)
-        : names_(disc, "teams"),
-          formations_(disc, "formations"),
-          bars_(disc, "bars"),
-          numbers_(disc, "numbers"),
-          set_pieces_(disc, "set_pieces"),
-          links_(disc, "links") {}
+    explicit RosterReader(const DiscBytes& disc) : names_(disc, "teams"), links_(disc, "links") {}
 
     ReportTeam read(Team team) const {
         ReportTeam report;
@@ -134,10 +128,6 @@ public:
         report.id = team_id(team);
         read_names(report);
         read_players(report);
-        report.numbers = numbers_.cells(report.id);
-        report.formation = formation_of(report.id);
-        report.bars = bars_.cells(report.id);
-        report.set_pieces = set_pieces_.cells(report.id);
         return report;
     }
 
@@ -177,6 +167,27 @@ private:
         }
     }
 
+    SheetView names_;
+    SheetView links_;
+};
+
+/// Reads how a team plays.
+class TeamReader {
+public:
+    explicit TeamReader(const DiscBytes& disc)
+        : formations_(disc, "formations"),
+          bars_(disc, "bars"),
+          numbers_(disc, "numbers"),
+          set_pieces_(disc, "set_pieces") {}
+
+    void read(ReportTeam& report) const {
+        report.numbers = numbers_.cells(report.id);
+        report.formation = formation_of(report.id);
+        report.bars = bars_.cells(report.id);
+        report.set_pieces = set_pieces_.cells(report.id);
+    }
+
+private:
     std::vector<ReportSpot> formation_of(std::string_view id) const {
         std::vector<ReportSpot> spots;
         const auto row = formations_.row_of(id);
@@ -189,12 +200,10 @@ private:
         return spots;
     }
 
-    SheetView names_;
     SheetView formations_;
     SheetView bars_;
     SheetView numbers_;
     SheetView set_pieces_;
-    SheetView links_;
 };
 
 void add_once(std::vector<Team>& clubs, Team club) {
@@ -215,14 +224,21 @@ void tell_the_linked(Report& report) {
 
 }  // namespace
 
-Report read_report(const DiscBytes& disc) {
+Report read_rosters(const DiscBytes& disc) {
     Report report;
     const PlayerReader players(disc);
     report.players.reserve(static_cast<std::size_t>(players.rows()));
     for (int row = 0; row < players.rows(); ++row) report.players.push_back(players.read(row));
-    const TeamReader teams(disc);
-    for (const Team team : every<Team>()) report.teams.push_back(teams.read(team));
+    const RosterReader rosters(disc);
+    for (const Team team : every<Team>()) report.teams.push_back(rosters.read(team));
     tell_the_linked(report);
+    return report;
+}
+
+Report read_report(const DiscBytes& disc) {
+    Report report = read_rosters(disc);
+    const TeamReader teams(disc);
+    for (ReportTeam& team : report.teams) teams.read(team);
     return report;
 }
 

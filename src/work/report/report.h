@@ -55,5 +55,7 @@ struct Report {
 };
 
 Report read_report(const DiscBytes& disc);
+/// The players, and of the teams only their names and who plays for them.
+Report read_rosters(const DiscBytes& disc);
 
 }  // namespace kalco
