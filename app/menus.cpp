@@ -36,6 +36,7 @@ Menus::Menus(QMainWindow& window, Binder& binder, SavesStack& saves, Tools& tool
     QMenu& edit = *bar.addMenu(QStringLiteral("Mo&difica"));
     add_saves(edit, saves);
     edit.addSeparator();
+    add_tool(edit, QStringLiteral("&Cerca giocatori…"), QKeySequence::Find, [&tools] { tools.search(); });
 
     QMenu& menu = *bar.addMenu(QStringLiteral("Strumenti"));
     add_tool(menu, QStringLiteral("&Settori…"), {}, [&tools] { tools.sectors(); });

@@ -4,9 +4,24 @@
 
 #include "app/tools/copy_tool.h"
 #include "app/tools/report_tool.h"
+#include "app/tools/search/search_window.h"
 #include "app/tools/sectors/sectors_dialog.h"
 
 namespace kalco::app {
+namespace {
+
+void bring_to_front(QWidget& dialog) {
+    dialog.setWindowState(dialog.windowState() & ~Qt::WindowMinimized);
+    dialog.show();
+    dialog.raise();
+    dialog.activateWindow();
+}
+
+}  // namespace
+
+Tools::~Tools() {
+    delete search_;
+}
 
 template <typename Dialog>
 void Tools::open() {
@@ -15,13 +30,20 @@ void Tools::open() {
         dialog = new Dialog(desk_, &window_);
         dialog->setAttribute(Qt::WA_DeleteOnClose);
     }
-    dialog->show();
-    dialog->raise();
-    dialog->activateWindow();
+    bring_to_front(*dialog);
 }
 
 void Tools::copy_image() {
     make_safe_copy(desk_, window_);
+}
+
+void Tools::search() {
+    if (search_ == nullptr) {
+        search_ = new SearchWindow(desk_);
+        search_->setAttribute(Qt::WA_DeleteOnClose);
+    }
+    bring_to_front(*search_);
+    search_->take_name();
 }
 
 void Tools::sectors() {

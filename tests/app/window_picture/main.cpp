@@ -1,13 +1,14 @@
-// window_picture IMAGE OUT.png [TAB] [dark] [unsaved] [dropped] [pending] [lost] [menu MENU ITEM]: a picture of the
-// window, or of the tool that the item opens, with a team chosen on the tab, with something changed on it, with that
-// dropped, with an import that waits, with the path lost in a cancelled dialog. An image that is not there gives the
-// window without one.
+// window_picture IMAGE OUT.png [TAB] [dark] [unsaved] [dropped] [pending] [lost] [search] [menu MENU ITEM]: a picture
+// of the window, or of the tool that the item opens, or of the search for players that compares two, with a team chosen
+// on the tab, with something changed on it, with that dropped, with an import that waits, with the path lost in a
+// cancelled dialog. An image that is not there gives the window without one.
 
 #include <QApplication>
 #include <QPixmap>
 #include <iostream>
 
 #include "app/support/dialogs.h"
+#include "app/support/search.h"
 #include "app/support/test_window.h"
 #include "editor/window/user.h"
 
@@ -110,14 +111,27 @@ void import_something(test::TestWindow& test) {
     });
 }
 
+QPixmap picture_of_search(test::TestWindow& test) {
+    const test::Search search(test);
+    search.pick("comboRole", 8);
+    search.pick("comboSkill_1", 5);
+    search.pick("comboLeast_1", 3);
+    search.sort_by(app::player_column::first_skill);
+    for (const std::size_t place : {0U, 2U}) search.tick(search.players().at(place));
+    search.type_name(QStringLiteral("a"));
+    // The portraits come a few at a time.
+    for (int frame = 0; frame < 20; ++frame) QApplication::processEvents();
+    return search.window().grab();
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
     const QApplication app(argc, argv);
     const QStringList arguments = QApplication::arguments();
     if (arguments.size() < 3) {
-        std::cerr
-            << "window_picture IMAGE OUT.png [TAB] [dark] [unsaved] [dropped] [pending] [lost] [menu MENU ITEM]\n";
+        std::cerr << "window_picture IMAGE OUT.png [TAB] [dark] [unsaved] [dropped] [pending] [lost] [search] "
+                     "[menu MENU ITEM]\n";
         return 2;
     }
     const auto wanted = [&arguments](const char* word) { return arguments.contains(QString::fromLatin1(word)); };
@@ -142,6 +156,7 @@ int main(int argc, char** argv) {
         }
     }
     QApplication::processEvents();
+    if (wanted("search")) return picture_of_search(test).save(arguments[2]) ? 0 : 1;
     QWidget* shown = &test.window;
     if (const qsizetype menu = arguments.indexOf(QStringLiteral("menu")); menu > 0) {
         test::choose_menu(test.window, arguments.value(menu + 1), arguments.value(menu + 2));
