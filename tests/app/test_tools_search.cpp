@@ -1,12 +1,8 @@
-#include <QScrollBar>
 #include <QtTest>
 #include <algorithm>
 #include <numeric>
 
-#include "app/support/dialogs.h"
 #include "app/support/search.h"
-#include "app/text.h"
-#include "editor/window/user.h"
 #include "work/find.h"
 #include "work/report/report.h"
 #include "work/sheets/ids.h"
@@ -14,7 +10,7 @@
 
 using namespace kalco;
 
-/// The search for players: what it shows, in which order, and that it follows the editor.
+/// The search for players: what it shows, and in which order.
 class TestToolsSearch : public QObject {
     Q_OBJECT
 
@@ -172,68 +168,6 @@ private Q_SLOTS:
         QVERIFY(equals > 1800);
     }
 
-    void it_follows_a_save_and_its_undo() {
-        test::TestWindow t(*home_);
-        const test::Search search(t);
-        search.pick("comboTeam", 1 + 10);
-        search.sort_by(app::player_column::first_skill);
-        search.type_name(QStringLiteral("a"));
-        const std::vector<int> players = search.players();
-        const int player = players.at(3);
-        search.choose(player, 2);
-        const std::string was = rename(t, player, "Zabaz");
-        QCOMPARE(search.chosen(), player);
-        QCOMPARE(search.table().currentIndex().column(), 2);
-        QCOMPARE(search.players(), players);
-        QCOMPARE(search.column(0)[3], QStringLiteral("Zabaz"));
-        rename(t, player, "Zobez");
-        QVERIFY(std::ranges::count(search.players(), player) == 0);
-        QCOMPARE(search.chosen(), -1);
-        for (int i = 0; i < 2; ++i) test::choose_menu(t.window, QStringLiteral("Modifica"), QStringLiteral("Annulla"));
-        QCOMPARE(search.players(), players);
-        QCOMPARE(search.column(0)[3], app::qt_text(was));
-        QVERIFY(!t.failure);
-    }
-
-    void it_stays_scrolled_as_it_was() {
-        test::TestWindow t(*home_);
-        const test::Search search(t);
-        search.choose(40);
-        search.table().verticalScrollBar()->setValue(700);
-        rename(t, 900, "Zabaz");
-        QCOMPARE(search.table().verticalScrollBar()->value(), 700);
-        QCOMPARE(search.chosen(), 40);
-    }
-
-    void it_follows_a_sheet_sorted_by_what_changes() {
-        test::TestWindow t(*home_);
-        const test::Search search(t);
-        search.sort_by(app::player_column::name);
-        const int player = search.players().back();
-        search.choose(player);
-        rename(t, player, "Aaaaaa");
-        QCOMPARE(search.players().front(), player);
-        QCOMPARE(search.chosen(), player);
-    }
-
-    void an_image_that_goes_leaves_nothing() {
-        test::TestWindow t(*home_);
-        const test::Search search(t);
-        search.type_name(QStringLiteral("ar"));
-        search.pick("comboTeam", 4);
-        const std::vector<int> players = search.players();
-        open_image(t, home_->path() + "/none.bin");
-        QVERIFY(search.players().empty());
-        QCOMPARE(search.told(), QStringLiteral("Nessuna immagine è aperta."));
-        QVERIFY(!search.field<QAbstractButton>("buttonGo").isEnabled());
-        search.key(search.table(), Qt::Key_Return);
-        search.key(search.table(), Qt::Key_Space);
-        search.type_name(QStringLiteral("ar"));
-        open_image(t, home_->image());
-        QCOMPARE(search.players(), players);
-        QVERIFY(!t.failure);
-    }
-
 private:
     static std::vector<int> players_of(const Report& report, Team team) {
         std::vector<int> players;
@@ -277,27 +211,6 @@ private:
             if (texts[row] == texts[row - 1] && players[place] < players[place - 1]) return false;
         }
         return true;
-    }
-
-    /// Saves another name on the first tab; gives the one before.
-    static std::string rename(test::TestWindow& t, int player, const std::string& name) {
-        const auto& place = std::get<RosterPlace>(place_of_row(player));
-        frmKalco& form = t.form();
-        std::string was;
-        t.binder().act([&] {
-            user::select_tab(form, tab::players);
-            user::pick(form, form.cboSeqSQ, place.team.value());
-            user::pick(form, form.listDat, place.player);
-            was = form.txtName.text();
-            user::type(form, form.txtName, name);
-        });
-        t.click(form.cmdSaveCar);
-        return was;
-    }
-
-    static void open_image(test::TestWindow& t, const std::string& path) {
-        t.platform.choices.push_back(path);
-        t.click(t.form().cmdOpen);
     }
 
     std::unique_ptr<test::DemoHome> home_;

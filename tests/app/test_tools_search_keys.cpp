@@ -1,5 +1,4 @@
 #include <QApplication>
-#include <QHeaderView>
 #include <QPushButton>
 #include <QtTest>
 #include <algorithm>
@@ -13,7 +12,7 @@
 
 using namespace kalco;
 
-/// The search for players as a window: its life, its keys, the way to a player, the comparison.
+/// The search for players as a window: its life, its keys, the way to a player.
 class TestToolsSearchKeys : public QObject {
     Q_OBJECT
 
@@ -181,51 +180,6 @@ private Q_SLOTS:
         QCOMPARE(search.chosen(), search.players().front());
     }
 
-    void two_and_three_stand_side_by_side() {
-        test::TestWindow t(home_);
-        const test::Search search(t);
-        const auto& model = dynamic_cast<const app::PlayersModel&>(*search.table().model());
-        search.tick(5);
-        QVERIFY(!search.comparison().isVisible());
-        search.type_name(QStringLiteral("ar"));
-        search.tick(search.players().at(10));
-        QVERIFY(search.comparison().isVisible());
-        check_comparison(search, model);
-        search.press("buttonReset");
-        search.tick(1700);
-        QCOMPARE(search.comparison().model()->columnCount(), 3);
-        check_comparison(search, model);
-        search.tick(6);
-        QCOMPARE(search.comparison().model()->columnCount(), 3);
-        QCOMPARE(search.told(), QStringLiteral("Si confrontano al più 3 giocatori: togline prima uno."));
-        search.tick(5);
-        QCOMPARE(model.ticked().size(), 2U);
-        check_comparison(search, model);
-        search.comparison().setFocus();
-        search.comparison().setCurrentIndex(search.comparison().model()->index(4, 1));
-        search.key(search.comparison(), Qt::Key_Return);
-        QCOMPARE(t.form().listDat.row(), 1700 - roster_rows);
-        search.window().activateWindow();
-        QApplication::processEvents();
-        search.key(search.comparison(), Qt::Key_Delete);
-        QVERIFY(!search.comparison().isVisible());
-        search.tick(1700);
-        search.press("buttonEmpty");
-        QVERIFY(model.ticked().empty() && !search.comparison().isVisible());
-    }
-
-    void a_click_on_the_tick_is_one() {
-        test::TestWindow t(home_);
-        const test::Search search(t);
-        const auto& model = dynamic_cast<const app::PlayersModel&>(*search.table().model());
-        for (const std::size_t ticked : {1U, 0U}) {
-            const QRect cell = search.table().visualRect(model.index(2, 0));
-            QTest::mouseClick(search.table().viewport(), Qt::LeftButton, {},
-                              QPoint(cell.left() + 9, cell.center().y()));
-            QCOMPARE(model.ticked().size(), ticked);
-        }
-    }
-
     void an_image_that_cannot_be_read_is_told() {
         test::FaultyFiles files;
         test::TestWindow t(home_.image(), home_.path(), [&files](const std::string& path) {
@@ -273,39 +227,6 @@ private:
             visited << QApplication::focusWidget();
         }
         return visited;
-    }
-
-    /// Every value of the ticked ones, with a star at the best where there is a worse one.
-    static void check_comparison(const test::Search& search, const app::PlayersModel& model) {
-        using namespace app::player_column;
-        const QAbstractItemModel& shown = *search.comparison().model();
-        QCOMPARE(shown.rowCount(), static_cast<int>(count));
-        int stars = 0;
-        for (int row = team; row < count; ++row) {
-            QList<int> numbers;
-            for (const int player : model.ticked()) {
-                const QString text = app::text_of(model.report(), model.player(player), row);
-                if (!text.isEmpty()) numbers << text.toInt();
-            }
-            const bool less = row == age || row == cost;
-            const bool ranked = is_skill(row) || row == height || less;
-            const bool differ =
-                !numbers.isEmpty() && *std::ranges::max_element(numbers) != *std::ranges::min_element(numbers);
-            const int best = numbers.isEmpty() ? 0
-                             : less            ? *std::ranges::min_element(numbers)
-                                               : *std::ranges::max_element(numbers);
-            for (int place = 0; place < shown.columnCount(); ++place) {
-                const ReportPlayer& player = model.player(model.ticked().at(static_cast<std::size_t>(place)));
-                const QString value =
-                    row == role ? QString::fromStdString(player.role) : app::text_of(model.report(), player, row);
-                const bool star = ranked && differ && !value.isEmpty() && value.toInt() == best;
-                const QModelIndex cell = shown.index(row, place);
-                QCOMPARE(cell.data().toString(), star ? QStringLiteral("★ ") + value : value);
-                QCOMPARE(cell.data(Qt::FontRole).value<QFont>().bold(), star);
-                stars += star ? 1 : 0;
-            }
-        }
-        QVERIFY(stars > 5);
     }
 
     test::DemoHome home_;
