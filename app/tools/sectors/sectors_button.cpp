@@ -9,7 +9,8 @@ namespace kalco::app {
 SectorsButton::SectorsButton(Desk& desk, QWidget* parent) : QPushButton(parent), desk_(desk) {
     setObjectName(QStringLiteral("viewSectors"));
     setFlat(true);
-    setFocusPolicy(Qt::TabFocus);
+    // The keyboard has the menu; between the fields of a tab this would only be in the way.
+    setFocusPolicy(Qt::NoFocus);
     connect(&desk, &Desk::image_changed, this, &SectorsButton::look);
     look();
 }
