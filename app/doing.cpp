@@ -8,12 +8,15 @@
 namespace kalco::app {
 namespace {
 
-/// As a screen reader calls it: a button's caption, the label of a field.
+/// As a screen reader calls it: the label of a field, a button's caption.
 QString spoken_name(const Binder& binder, const Control& control) {
     QWidget* const widget = binder.widget_of(control);
-    const QAccessibleInterface* const spoken =
-        widget == nullptr ? nullptr : QAccessible::queryAccessibleInterface(widget);
-    return spoken == nullptr ? QString() : spoken->text(QAccessible::Name).remove(u'&').trimmed();
+    const QAccessibleInterface* spoken = widget == nullptr ? nullptr : QAccessible::queryAccessibleInterface(widget);
+    if (spoken == nullptr) return {};
+    // Where labels are told as such, a pick list takes its text for its name.
+    const auto labels = spoken->relations(QAccessible::Label);
+    if (!labels.isEmpty()) spoken = labels.constFirst().first;
+    return spoken->text(QAccessible::Name).remove(u'&').trimmed();
 }
 
 QString chosen_text(const frmKalco& form, const Control& control) {

@@ -93,6 +93,20 @@ private Q_SLOTS:
         QVERIFY(!program.window().isVisible());
     }
 
+    void an_error_names_the_field_by_its_label() {
+        const test::DemoHome home;
+        app::Program program;
+        frmKalco& form = program.editor().form;
+        form.cboSeqSQ.click = [] { throw RuntimeError(error::type_mismatch); };
+        choose_next(home);
+        when_started(program, [&] {
+            on_box([](QMessageBox& box) { press_enter(box); });
+            QTest::keyClick(program.window().binder().widget_of(form.cboSeqSQ), Qt::Key_E);
+        });
+        QCOMPARE(program.run(), 1);
+        QVERIFY2(told_.contains(QStringLiteral("Durante: Squadra «England».")), qPrintable(told_));
+    }
+
     void any_other_exception_is_told_and_ends_it_with_1() {
         const std::vector<std::pair<std::exception_ptr, QString>> failures{
             {std::make_exception_ptr(std::bad_alloc()), QStringLiteral("Errore di run-time '7':\nMemoria esaurita")},
