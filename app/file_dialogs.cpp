@@ -1,8 +1,12 @@
 #include "app/file_dialogs.h"
 
 #include <QFileDialog>
+#include <QFileIconProvider>
 #include <QFileInfo>
+#include <QHeaderView>
 #include <QRegularExpression>
+#include <QScreen>
+#include <QTreeView>
 
 #include "app/tools/message.h"
 
@@ -27,6 +31,29 @@ QString ending_of(const QString& filter) {
     return ending.match(filter).captured(1);
 }
 
+/// Qt's own words know no name for a directory and call most files unknown.
+class FileKinds : public QObject, public QFileIconProvider {
+public:
+    using QObject::QObject;
+
+    QString type(const QFileInfo& file) const override {
+        if (file.isDir()) return QStringLiteral("Cartella");
+        return file.suffix().isEmpty() ? QStringLiteral("File") : QStringLiteral("File ") + file.suffix().toUpper();
+    }
+};
+
+/// Room for the names, and for the heads of the other columns.
+void lay_out(QFileDialog& dialog) {
+    constexpr QSize wished(760, 480);
+    dialog.resize(wished.boundedTo(dialog.screen()->availableSize()));
+    auto* const files = dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
+    if (files == nullptr) return;
+    for (int column = 0; column < files->header()->count(); ++column) {
+        files->header()->setSectionResizeMode(column,
+                                              column == 0 ? QHeaderView::Stretch : QHeaderView::ResizeToContents);
+    }
+}
+
 }  // namespace
 
 void prepare_file_dialog(QFileDialog& dialog, const QString& title) {
@@ -34,6 +61,8 @@ void prepare_file_dialog(QFileDialog& dialog, const QString& title) {
     dialog.setOption(QFileDialog::ReadOnly);
     dialog.setWindowTitle(title);
     dialog.setFileMode(QFileDialog::ExistingFile);
+    dialog.setIconProvider(new FileKinds(&dialog));
+    lay_out(dialog);
     dialog.setLabelText(QFileDialog::LookIn, QStringLiteral("Cerca in:"));
     dialog.setLabelText(QFileDialog::FileName, QStringLiteral("&Nome file:"));
     dialog.setLabelText(QFileDialog::FileType, QStringLiteral("Tipo di file:"));

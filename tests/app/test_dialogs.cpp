@@ -2,6 +2,8 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileIconProvider>
+#include <QHeaderView>
 #include <QLabel>
 #include <QMessageBox>
 #include <QMimeData>
@@ -153,6 +155,23 @@ private Q_SLOTS:
             const QRegularExpression word(QStringLiteral("\\b%1\\b").arg(QLatin1String(english)));
             QVERIFY2(!word.match(all).hasMatch(), qPrintable(QLatin1String(english) + QStringLiteral(": ") + all));
         }
+    }
+
+    void the_file_dialog_names_the_kinds_and_has_room_for_its_heads() {
+        QTemporaryDir home;
+        QVERIFY(QDir(home.path()).mkdir(QStringLiteral("Export")));
+        when_shown<QFileDialog>([&home](QFileDialog& dialog) {
+            QAbstractFileIconProvider& kinds = *dialog.iconProvider();
+            QCOMPARE(kinds.type(QFileInfo(home.path())), QStringLiteral("Cartella"));
+            QCOMPARE(kinds.type(QFileInfo(QStringLiteral("a.bin"))), QStringLiteral("File BIN"));
+            QCOMPARE(kinds.type(QFileInfo(QStringLiteral("a"))), QStringLiteral("File"));
+            const auto& head = *dialog.findChild<QTreeView*>(QStringLiteral("treeView"))->header();
+            for (int column = 0; column < head.count(); ++column) {
+                QVERIFY(head.sectionSize(column) >= head.sectionSizeHint(column));
+            }
+            QTest::keyClick(&dialog, Qt::Key_Escape);
+        });
+        platform_.open_dialog("*.DAT|*.DAT", home.path().toStdString());
     }
 
     void the_filters_are_pairs_of_a_label_and_a_pattern() {
