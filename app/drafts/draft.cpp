@@ -37,7 +37,7 @@ bool same(const Draft& one, const Draft& other) {
 }
 
 QString unsaved_mark(const Draft& draft) {
-    return draft.empty() ? QString() : QStringLiteral("● non salvato");
+    return draft.empty() ? QString() : unsaved_text.toString();
 }
 
 Draft DraftWatch::look() {

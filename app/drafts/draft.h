@@ -32,6 +32,8 @@ struct Draft {
 /// Whether the same changes are unsaved in the same place.
 bool same(const Draft& one, const Draft& other);
 
+inline constexpr QStringView unsaved_text = u"● non salvato";
+
 /// What stands beside a save button; empty for an empty draft.
 QString unsaved_mark(const Draft& draft);
 

@@ -22,6 +22,7 @@ NumbersTab::NumbersTab(Binder& binder, QWidget& page, const Drafts& drafts)
         auto& cell = widget_of<NumberCellView>(form_.lblNum(number));
         QObject::connect(&cell, &NumberCellView::pressed, &page, [this](int pressed) { press(pressed); });
     }
+    keep_place(would_write_);
     connect_lists();
 }
 

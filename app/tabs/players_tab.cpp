@@ -65,6 +65,8 @@ PlayersTab::PlayersTab(Binder& binder, QWidget& page, const Drafts& drafts)
       full_name_(widget_of<QLineEdit>(form_.txtSqHEX)),
       table_name_(widget_of<QLineEdit>(form_.txtSqDec)),
       player_name_(widget_of<QLineEdit>(form_.txtName)) {
+    // The buttons beside it stay where they are.
+    unsaved_player_.setMinimumWidth(unsaved_player_.fontMetrics().horizontalAdvance(unsaved_text.toString()));
     roster_.note = [this](int row) { return note(row); };
     QObject::connect(&restore_, &QPushButton::clicked, &page, [this] { read_again(); });
 }

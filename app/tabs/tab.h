@@ -31,6 +31,13 @@ protected:
         return *found;
     }
 
+    /// Buttons must not move when a line that is often empty has something to say.
+    static void keep_place(QWidget& line) {
+        QSizePolicy policy = line.sizePolicy();
+        policy.setRetainSizeWhenHidden(true);
+        line.setSizePolicy(policy);
+    }
+
     template <typename Widget>
     Widget& widget_of(const Control& control) const {
         return dynamic_cast<Widget&>(*binder_.widget_of(control));

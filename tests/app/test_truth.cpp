@@ -48,6 +48,26 @@ private Q_SLOTS:
         QVERIFY(label("viewWouldWrite").isEmpty());
     }
 
+    void no_button_moves_when_something_is_told() {
+        pick(form().cboSeqSQ, 10);
+        const auto place = [this](const Control& control) {
+            QApplication::processEvents();
+            const QWidget& widget = t_->widget(control);
+            return QRect(widget.mapTo(&t_->window, QPoint()), widget.size());
+        };
+        const QRect save = place(form().cmdSaveCar);
+        t_->type(form().txtName, QStringLiteral("Rossi"));
+        QVERIFY(!label("viewUnsavedPlayer").isEmpty());
+        QCOMPARE(place(form().cmdSaveCar), save);
+
+        t_->select_tab(tab::numbers);
+        pick(form().cboSQNum, 3);
+        const QRect change = place(form().cmdModNum);
+        t_->pick_row(form().ListName, 2);
+        QVERIFY(!label("viewWouldWrite").isEmpty());
+        QCOMPARE(place(form().cmdModNum), change);
+    }
+
     void an_image_that_is_not_there_is_told_with_the_reason() {
         test::TestWindow closed(home_->path() + "/none.bin", home_->path());
         const auto& notice = *closed.window.findChild<app::Notice*>(QStringLiteral("viewImageNotice"));
