@@ -2,10 +2,12 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QImage>
 #include <QMessageBox>
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QTextDocument>
+#include <QUrl>
 #include <QVBoxLayout>
 #include <vector>
 
@@ -51,11 +53,20 @@ void Manual::fit_pictures() {
     for (const QTextFragment& fragment : pictures) {
         QTextImageFormat picture = fragment.charFormat().toImageFormat();
         picture.setWidth(picture_width);
+        take_smooth_picture(picture.name(), qRound(picture_width * devicePixelRatioF()));
         QTextCursor cursor(pages_->document());
         cursor.setPosition(fragment.position());
         cursor.setPosition(fragment.position() + fragment.length(), QTextCursor::KeepAnchor);
         cursor.setCharFormat(picture);
     }
+}
+
+void Manual::take_smooth_picture(const QString& name, int pixels) {
+    // The browser would leave out pixels, and with them half the letters.
+    const QImage whole(QStringLiteral(":/manual/") + name);
+    if (whole.width() <= pixels) return;
+    pages_->document()->addResource(QTextDocument::ImageResource, QUrl(name),
+                                    whole.scaledToWidth(pixels, Qt::SmoothTransformation));
 }
 
 QString heading_anchor(const QString& heading) {

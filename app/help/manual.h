@@ -18,6 +18,7 @@ public:
 private:
     void give_headings_anchors();
     void fit_pictures();
+    void take_smooth_picture(const QString& name, int pixels);
 
     QTextBrowser* pages_;
 };

@@ -83,6 +83,19 @@ private Q_SLOTS:
         QVERIFY(pictures >= 6);
     }
 
+    void its_pictures_are_made_smaller_smoothly() {
+        const app::Manual manual;
+        const QTextDocument& document = *manual.pages().document();
+        for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+            for (auto part = block.begin(); !part.atEnd(); ++part) {
+                if (!part.fragment().charFormat().isImageFormat()) continue;
+                const QTextImageFormat format = part.fragment().charFormat().toImageFormat();
+                const auto shown = document.resource(QTextDocument::ImageResource, QUrl(format.name())).value<QImage>();
+                QCOMPARE(shown.width(), qRound(format.width() * manual.devicePixelRatioF()));
+            }
+        }
+    }
+
     void anchors_are_named_as_links_name_them() {
         QCOMPARE(app::heading_anchor(QStringLiteral("Aprire un'immagine")), QStringLiteral("aprire-unimmagine"));
         QCOMPARE(app::heading_anchor(QStringLiteral("Prima: tenere le copie")),
