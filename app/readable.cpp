@@ -8,18 +8,20 @@
 namespace kalco::app {
 namespace {
 
-double linear(double channel) {
-    return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+/// The light of each step of a channel.
+std::array<double, 256> light_of_steps() {
+    std::array<double, 256> light{};
+    for (std::size_t step = 0; step < light.size(); ++step) {
+        const double channel = static_cast<double>(step) / 255;
+        light[step] = channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+    }
+    return light;
 }
 
 double luminance(const QColor& colour) {
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
-}
-
-QColor mix(const QColor& one, const QColor& other, double share) {
-    const auto channel = [share](float a, float b) { return static_cast<float>(a * share + b * (1 - share)); };
-    return QColor::fromRgbF(channel(one.redF(), other.redF()), channel(one.greenF(), other.greenF()),
-                            channel(one.blueF(), other.blueF()));
+    static const std::array<double, 256> light = light_of_steps();
+    const auto of = [](int step) { return light[static_cast<std::size_t>(step)]; };
+    return 0.2126 * of(colour.red()) + 0.7152 * of(colour.green()) + 0.0722 * of(colour.blue());
 }
 
 struct Mixture {
@@ -40,6 +42,12 @@ QColor mixed_until_readable(const Mixture& first, const QColor& ground) {
 }
 
 }  // namespace
+
+QColor mix(const QColor& one, const QColor& other, double share) {
+    const auto channel = [share](int a, int b) { return qRound(a * share + b * (1 - share)); };
+    return QColor(channel(one.red(), other.red()), channel(one.green(), other.green()),
+                  channel(one.blue(), other.blue()));
+}
 
 double contrast(const QColor& ink, const QColor& ground) {
     const double one = luminance(ink);

@@ -10,6 +10,9 @@ namespace kalco::app {
 /// The least contrast of small text.
 inline constexpr double readable_contrast = 4.5;
 
+/// As much of one colour as `share` tells, and the rest of the other.
+QColor mix(const QColor& one, const QColor& other, double share);
+
 /// The contrast of two opaque colours: 1 for the same, 21 for black on white.
 double contrast(const QColor& ink, const QColor& ground);
 

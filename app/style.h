@@ -21,8 +21,14 @@ public:
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                             const QWidget* widget) const override;
 
+    void drawItemText(QPainter* painter, const QRect& area, int flags, const QPalette& palette, bool enabled,
+                      const QString& text, QPalette::ColorRole ink = QPalette::NoRole) const override;
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                            const QWidget* widget) const override;
+
+private:
+    QRect group_frame(const QStyleOption& option, const QWidget* widget) const;
+    QPixmap kept_piece(PrimitiveElement element, const QStyleOption& option, qreal ratio, const QWidget* widget) const;
 };
 
 /// Whether a text field or pick list shows the edge.

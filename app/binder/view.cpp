@@ -1,6 +1,7 @@
 #include "app/binder/view.h"
 
 #include <QAbstractButton>
+#include <QCoreApplication>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -240,7 +241,13 @@ public:
     }
 
 protected:
-    void show() override { widget_.setCurrentIndex(model_.tab()); }
+    void show() override {
+        if (widget_.currentIndex() == model_.tab()) return;
+        widget_.setCurrentIndex(model_.tab());
+        // Laid out and marked as shown before it is painted, the page is painted once.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateLater);
+    }
 };
 
 template <typename ViewKind, typename Widget>

@@ -35,7 +35,10 @@ void LeagueTab::refresh() {
 
 void LeagueTab::show_picks() {
     const int picked = form_.listAppNameNC.count();
+    // It would paint itself at once, and all else that is to be painted with it.
+    picks_.setUpdatesEnabled(false);
     picks_.setValue(picked);
+    picks_.setUpdatesEnabled(true);
     pool_.viewport()->update();
     const bool too_few = form_.cmdImpNC.enabled() && picked < roster_players;
     set_warning_ink(too_few_);

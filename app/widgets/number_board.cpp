@@ -4,9 +4,42 @@
 #include <QPainter>
 #include <utility>
 
+#include "app/pictures.h"
+#include "app/quick_text.h"
 #include "app/text.h"
 
 namespace kalco::app {
+namespace {
+
+/// What a number stands on.
+struct Ground {
+    QColor fill;
+    QColor ink;
+    bool edged = false;
+    bool marked = false;
+};
+
+QString name_of(const Ground& ground) {
+    return QStringLiteral("cell %1 %2 %3 %4")
+        .arg(ground.fill.rgb())
+        .arg(ground.ink.rgb())
+        .arg(ground.edged)
+        .arg(ground.marked);
+}
+
+void draw_ground(QPainter& painter, const QRectF& area, const Ground& ground) {
+    QColor edge = ground.ink;
+    edge.setAlphaF(0.2F);
+    painter.setPen(ground.edged ? QPen(edge, 1) : QPen(Qt::NoPen));
+    painter.setBrush(ground.fill);
+    painter.drawRoundedRect(area, 4, 4);
+    if (!ground.marked) return;
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(ground.ink, 2.5));
+    painter.drawRoundedRect(area.adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
+}
+
+}  // namespace
 
 NumberCellView::NumberCellView(QWidget* parent) : QWidget(parent) {
     setFocusPolicy(Qt::NoFocus);
@@ -57,28 +90,21 @@ QSize NumberCellView::sizeHint() const {
 
 void NumberCellView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const QRectF area = QRectF(rect()).adjusted(2, 2, -2, -2);
     if (!possible_ && !in_use_) {
         painter.setPen(palette().color(QPalette::Disabled, QPalette::WindowText));
-        painter.drawText(rect(), Qt::AlignCenter, QString::number(number_));
+        draw_text(painter, rect(), Qt::AlignCenter, QString::number(number_));
         return;
     }
-    QColor edge = palette().color(QPalette::WindowText);
-    edge.setAlphaF(0.2F);
-    painter.setPen(in_use_ ? QPen(Qt::NoPen) : QPen(edge, 1));
-    painter.setBrush(palette().color(in_use_ ? QPalette::Highlight : QPalette::Base));
-    painter.drawRoundedRect(area, 4, 4);
-    if (marked_) {
-        painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(palette().color(QPalette::WindowText), 2.5));
-        painter.drawRoundedRect(area.adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
-    }
+    const Ground ground{palette().color(in_use_ ? QPalette::Highlight : QPalette::Base),
+                        palette().color(QPalette::WindowText), !in_use_, marked_};
+    painter.drawPixmap(0, 0, painted_once(name_of(ground), size(), devicePixelRatioF(), [&](QPainter& cell) {
+                           draw_ground(cell, QRectF(rect()).adjusted(2, 2, -2, -2), ground);
+                       }));
     QFont text_font = font();
     text_font.setBold(in_use_);
     painter.setFont(text_font);
     painter.setPen(palette().color(in_use_ ? QPalette::HighlightedText : QPalette::Text));
-    painter.drawText(rect(), Qt::AlignCenter, QString::number(number_));
+    draw_text(painter, rect(), Qt::AlignCenter, QString::number(number_));
 }
 
 void NumberCellView::mousePressEvent(QMouseEvent* event) {

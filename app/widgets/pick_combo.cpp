@@ -52,6 +52,17 @@ private:
     PickCombo& combo_;
 };
 
+constexpr int steps = 8;  ///< Of a skill's bar.
+
+void draw_skill_bar(QPainter& painter, QSize size, int reached, const QColor& track) {
+    painter.setPen(Qt::NoPen);
+    const double step = static_cast<double>(size.width()) / steps;
+    for (int i = 0; i < steps; ++i) {
+        painter.setBrush(i < reached ? skill_colour((reached - 1.0) / (steps - 1)) : track);
+        painter.drawRoundedRect(QRectF(i * step, 0, step - 2, size.height()), 2, 2);
+    }
+}
+
 }  // namespace
 
 PickCombo::PickCombo(QWidget* parent) : QComboBox(parent) {
@@ -114,7 +125,10 @@ void PickCombo::paintEvent(QPaintEvent*) {
 }
 
 void PickCombo::paint_field(QStylePainter& painter, QStyleOptionComboBox& option) {
-    option.currentText = fontMetrics().elidedText(option.currentText, Qt::ElideRight, field_rect(option).width() - 4);
+    const int room = field_rect(option).width() - 4;
+    if (fontMetrics().horizontalAdvance(option.currentText) > room) {
+        option.currentText = fontMetrics().elidedText(option.currentText, Qt::ElideRight, room);
+    }
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }
 
@@ -125,28 +139,22 @@ QColor skill_colour(double level) {
 void SkillCombo::paint_field(QStylePainter& painter, QStyleOptionComboBox& option) {
     PickCombo::paint_field(painter, option);
     constexpr int lowest = 12;
-    constexpr int steps = 8;
     bool is_number = false;
     const int skill = shown_text().toInt(&is_number);
     if (!is_number || skill < lowest) return;
     const int reached = std::min(skill - lowest + 1, steps);
 
-    QRectF area = field_rect(option).adjusted(fontMetrics().horizontalAdvance(QStringLiteral("00")) + 14, 0, -6, 0);
-    const double height = std::min(8.0, area.height() / 2);
-    area = QRectF(area.left(), area.center().y() - height / 2, area.width(), height);
+    const int number = fontMetrics().horizontalAdvance(QStringLiteral("00")) + 14;
+    QRect area = field_rect(option).adjusted(number, 0, -6, 0);
+    const int height = std::min(8, area.height() / 2);
+    area = QRect(area.left(), area.center().y() - height / 2 + 1, area.width(), height);
     if (area.width() < steps) return;
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
     QColor track = palette().color(QPalette::ButtonText);
     track.setAlphaF(0.12F);
-    const double step = area.width() / steps;
-    for (int i = 0; i < steps; ++i) {
-        const QRectF cell(area.left() + i * step, area.top(), step - 2, area.height());
-        QColor colour = i < reached ? skill_colour((reached - 1.0) / (steps - 1)) : track;
-        if (!isEnabled()) colour.setAlphaF(colour.alphaF() * 0.4F);
-        painter.setBrush(colour);
-        painter.drawRoundedRect(cell, 2, 2);
-    }
+    const auto draw = [&](QPainter& bar) { draw_skill_bar(bar, area.size(), reached, track); };
+    const QString name = QStringLiteral("skill %1 %2").arg(reached).arg(track.rgba());
+    if (!isEnabled()) painter.setOpacity(0.4);
+    painter.drawPixmap(area.topLeft(), painted_once(name, area.size(), devicePixelRatioF(), draw));
 }
 
 }  // namespace kalco::app

@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "app/quick_text.h"
 #include "app/text.h"
 
 namespace kalco::app {
@@ -57,7 +58,7 @@ void PitchNames::paintEvent(QPaintEvent*) {
         painter.setBrush(QColor(0x14, 0x3a, 0x1b, 170));
         painter.drawRoundedRect(name.area, 4, 4);
         painter.setPen(Qt::white);
-        painter.drawText(name.area, Qt::AlignCenter, name.name);
+        draw_text(painter, name.area, Qt::AlignCenter, name.name);
     }
 }
 

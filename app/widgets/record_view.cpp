@@ -2,6 +2,7 @@
 
 #include <QPainter>
 
+#include "app/quick_text.h"
 #include "app/readable.h"
 #include "app/text.h"
 #include "app/widgets/pick_combo.h"
@@ -71,21 +72,20 @@ void RecordView::paintEvent(QPaintEvent*) {
     bold.setBold(true);
     painter.setFont(bold);
     painter.setPen(ink);
-    painter.drawText(next_line(), Qt::AlignLeft | Qt::AlignVCenter, visible_text(player_.name));
+    draw_text(painter, next_line(), Qt::AlignLeft | Qt::AlignVCenter, visible_text(player_.name));
     painter.setFont(font());
     for (const QString& fact : player_.facts) {
         painter.setPen(faint);
         const QRect row = next_line();
-        painter.drawText(row, Qt::AlignLeft | Qt::AlignVCenter,
-                         fontMetrics().elidedText(fact, Qt::ElideRight, row.width()));
+        draw_elided(painter, row, Qt::AlignLeft | Qt::AlignVCenter, fact);
     }
     area.setTop(area.top() + 6);
     for (const auto& skill : player_.skills) {
         const QRect row = next_line();
         painter.setPen(ink);
-        painter.drawText(row, Qt::AlignLeft | Qt::AlignVCenter, skill.name);
+        draw_text(painter, row, Qt::AlignLeft | Qt::AlignVCenter, skill.name);
         const QRect number(row.left() + skill_name_width(), row.top(), number_width() - 8, row.height());
-        painter.drawText(number, Qt::AlignRight | Qt::AlignVCenter, QString::number(skill.value));
+        draw_text(painter, number, Qt::AlignRight | Qt::AlignVCenter, QString::number(skill.value));
         const int reached = std::clamp(skill.value - lowest_skill + 1, 0, skill_steps);
         const double full = bar_width() * reached / static_cast<double>(skill_steps);
         painter.setPen(Qt::NoPen);

@@ -7,6 +7,7 @@
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 
+#include "app/quick_text.h"
 #include "app/readable.h"
 #include "app/text.h"
 
@@ -49,18 +50,16 @@ public:
         if (const int width = number_width(option); width > 0) {
             painter->setPen(faint);
             const QRect column(area.left(), area.top(), width - 10, area.height());
-            painter->drawText(column, Qt::AlignRight | Qt::AlignVCenter, QString::number(index.row() + 1));
+            draw_text(*painter, column, Qt::AlignRight | Qt::AlignVCenter, QString::number(index.row() + 1));
             area.setLeft(area.left() + width);
         }
-        const QFontMetrics metrics(option.font);
         if (!note.note.isEmpty()) {
             painter->setPen(faint);
-            painter->drawText(area, Qt::AlignRight | Qt::AlignVCenter, note.note);
-            area.setRight(area.right() - metrics.horizontalAdvance(note.note) - 8);
+            draw_text(*painter, area, Qt::AlignRight | Qt::AlignVCenter, note.note);
+            area.setRight(area.right() - painter->fontMetrics().horizontalAdvance(note.note) - 8);
         }
         painter->setPen(note.muted ? faint : ink);
-        painter->drawText(area, Qt::AlignLeft | Qt::AlignVCenter,
-                          metrics.elidedText(text, Qt::ElideRight, area.width()));
+        draw_elided(*painter, area, Qt::AlignLeft | Qt::AlignVCenter, text);
         painter->restore();
     }
 
@@ -177,6 +176,12 @@ void RowsView::focusInEvent(QFocusEvent* event) {
     QListView::focusInEvent(event);
     // The base class would begin at the first row.
     if (row() != shown_row_) setCurrentIndex(rows_.index(shown_row_));
+    update();  // The frame, which tells where the keyboard is.
+}
+
+void RowsView::focusOutEvent(QFocusEvent* event) {
+    QListView::focusOutEvent(event);
+    update();
 }
 
 }  // namespace kalco::app
