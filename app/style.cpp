@@ -35,9 +35,21 @@ void draw_edge(QPainter& painter, const QRect& frame, const QColor& colour) {
     painter.fillRect(frame.right(), frame.top() + 1, 1, frame.height() - 2, colour);
 }
 
+bool is_dark(const QPalette& palette) {
+    return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
+}
+
+/// Fusion's own edge is darker than the window, which is not seen on a dark one.
+void draw_ring(QPainter& painter, const QStyleOption& option) {
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(mix(option.palette.color(QPalette::WindowText), option.palette.color(QPalette::Window), 0.45));
+    painter.drawEllipse(QRectF(option.rect).adjusted(1, 1, -1, -1));
+}
+
 /// Fusion stretches a picture over the frame, which takes longer than all that stands in it.
 void draw_group_frame(QPainter& painter, const QRect& frame, const QPalette& palette) {
-    constexpr double share = 0.06;
+    const double share = is_dark(palette) ? 0.14 : 0.06;
     draw_edge(painter, frame, mix(palette.color(QPalette::WindowText), palette.color(QPalette::Window), share));
 }
 
@@ -113,6 +125,7 @@ QPixmap Style::kept_piece(PrimitiveElement element, const QStyleOption& option, 
         piece.setRenderHint(QPainter::Antialiasing, false);
         piece.translate(-option.rect.topLeft());
         QProxyStyle::drawPrimitive(element, &option, &piece, widget);
+        if (element == PE_IndicatorRadioButton && is_dark(option.palette)) draw_ring(piece, option);
     });
 }
 
