@@ -136,6 +136,10 @@ target_compile_definitions(test_help PRIVATE
     KALCO_PROGRAM="$<TARGET_FILE:kalco>" KALCO_SOURCE="${PROJECT_SOURCE_DIR}")
 add_dependencies(test_help kalco)
 
+target_compile_definitions(test_tools_words PRIVATE KALCO_SOURCE="${PROJECT_SOURCE_DIR}")
+# Its images in memory are those of the core tests.
+target_sources(test_tools_words PRIVATE tests/support/sheet_disc.cpp)
+
 # test_screens on the small screens that Kalco is to fit, test_layout with everything twice as large.
 foreach(screen 1024x768 1366x768-144dpi 1920x1080-scale2)
     add_test(NAME test_screens_${screen} COMMAND test_screens

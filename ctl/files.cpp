@@ -22,12 +22,12 @@ using File = std::unique_ptr<std::FILE, Closing>;
 
 File opened(const std::string& path, const char* mode) {
     File file(std::fopen(path.c_str(), mode));
-    if (!file) throw FileError(path, std::system_category().message(errno));
+    if (!file) throw SystemFileError(path, errno);
     return file;
 }
 
 [[noreturn]] void fail(const std::string& path) {
-    throw FileError(path, std::system_category().message(errno));
+    throw SystemFileError(path, errno);
 }
 
 /// A pipe or device, which can't be replaced.

@@ -2,11 +2,17 @@
 
 #include <array>
 #include <cerrno>
+#include <functional>
 #include <optional>
+#include <span>
+#include <vector>
 
 #include "app/text.h"
+#include "app/tools/captions.h"
+#include "app/tools/sentences.h"
 #include "disc/image/file_error.h"
 #include "disc/runtime_error.h"
+#include "work/sheets/sheets.h"
 
 namespace kalco::app {
 namespace {
@@ -35,53 +41,72 @@ constexpr std::array reasons{
     Reason{EWOULDBLOCK, "un altro programma lo sta usando"},
 };
 
-/// A sentence and its translation. "{}" stands for a part that is taken over, in the same order.
-struct Sentence {
-    std::string_view english;
-    std::string_view italian;
-};
-
-constexpr std::array sentences{
-    Sentence{"a change beyond the image's end", "una modifica oltre la fine dell'immagine"},
-    Sentence{"that is the image itself", "è l'immagine stessa"},
-    Sentence{"that is a directory", "è una cartella"},
-    Sentence{"that is no plain file", "non è un file normale"},
-};
-
 constexpr std::string_view gap = "{}";
 
-/// The parts of the sentence that stand where the pattern has its gaps; none when it does not fit.
-std::optional<QStringList> parts_of(std::string_view sentence, std::string_view pattern) {
-    QStringList parts;
-    for (;;) {
-        const auto end = pattern.find(gap);
-        if (end == std::string_view::npos) {
-            if (sentence != pattern) return std::nullopt;
-            return parts;
-        }
-        if (sentence.substr(0, end) != pattern.substr(0, end)) return std::nullopt;
-        sentence.remove_prefix(end);
-        pattern.remove_prefix(end + gap.size());
-        // A gap goes to where the rest can begin, the last one to the end.
-        const std::string_view next = pattern.substr(0, pattern.find(gap));
-        const auto part = next.empty() ? sentence.size() : sentence.find(next);
-        if (part == std::string_view::npos) return std::nullopt;
-        parts << QString::fromUtf8(sentence.data(), static_cast<qsizetype>(part));
-        sentence.remove_prefix(part);
+QString utf8(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+/// Takes a sentence apart at the gaps of a pattern, in every way that there is, until `accept` takes the parts.
+bool take_apart(std::string_view sentence, std::string_view pattern, std::vector<std::string_view>& parts,
+                const std::function<bool()>& accept) {
+    const auto end = pattern.find(gap);
+    if (end == std::string_view::npos) return sentence == pattern && accept();
+    if (!sentence.starts_with(pattern.substr(0, end))) return false;
+    sentence.remove_prefix(end);
+    pattern.remove_prefix(end + gap.size());
+    // A gap at the end takes all that is left.
+    for (std::size_t length = pattern.empty() ? sentence.size() : 0; length <= sentence.size(); ++length) {
+        parts.push_back(sentence.substr(0, length));
+        if (take_apart(sentence.substr(length), pattern, parts, accept)) return true;
+        parts.pop_back();
     }
+    return false;
+}
+
+std::optional<QString> translated(std::string_view sentence);
+
+/// None where a part is not what the gap is for.
+std::optional<QString> put_together(std::string_view italian, std::span<const std::string_view> parts) {
+    QString text;
+    for (const std::string_view part : parts) {
+        const auto start = italian.find('{');
+        if (start == std::string_view::npos) break;
+        text += utf8(italian.substr(0, start));
+        const char kind = italian[start + 1];
+        if (kind == 't') {
+            const auto inner = translated(part);
+            if (!inner) return std::nullopt;
+            text += *inner;
+        } else if (kind == 's') {
+            const Sheet* const sheet = sheet_named(part);
+            if (sheet == nullptr) return std::nullopt;
+            text += caption_of(*sheet);
+        } else {
+            text += utf8(part);
+        }
+        italian.remove_prefix(italian.find('}', start) + 1);
+    }
+    return text + utf8(italian);
+}
+
+std::optional<QString> translated(std::string_view sentence) {
+    for (const Sentence& each : sentences()) {
+        std::optional<QString> text;
+        std::vector<std::string_view> parts;
+        const auto accept = [&] {
+            text = put_together(each.italian, parts);
+            return text.has_value();
+        };
+        if (take_apart(sentence, each.english, parts, accept)) return text;
+    }
+    return std::nullopt;
 }
 
 }  // namespace
 
 QString italian(std::string_view sentence) {
-    for (const Sentence& each : sentences) {
-        const auto parts = parts_of(sentence, each.english);
-        if (!parts) continue;
-        QString text = QString::fromUtf8(each.italian.data(), static_cast<qsizetype>(each.italian.size()));
-        for (const QString& part : *parts) text.replace(text.indexOf(u"{}"), 2, part);
-        return text;
-    }
-    return QString::fromUtf8(sentence.data(), static_cast<qsizetype>(sentence.size()));
+    return translated(sentence).value_or(utf8(sentence));
 }
 
 QString words_of(const std::exception& failure) {
@@ -89,7 +114,7 @@ QString words_of(const std::exception& failure) {
         for (const Reason& reason : reasons) {
             if (reason.code == error->code()) return QString::fromUtf8(reason.text);
         }
-        return QString::fromStdString(error->reason());
+        return QStringLiteral("errore %1 del sistema").arg(error->code());
     }
     if (const auto* const error = dynamic_cast<const FileError*>(&failure)) return italian(error->reason());
     if (const auto* const error = dynamic_cast<const RuntimeError*>(&failure)) {

@@ -1,7 +1,6 @@
 #include "disc/image/failures.h"
 
 #include <cerrno>
-#include <system_error>
 
 #include "disc/image/file_error.h"
 #include "disc/image/storage.h"
@@ -14,14 +13,10 @@ bool means_no_room(int code) {
     return code == ENOSPC || code == EDQUOT || code == EFBIG;
 }
 
-std::string reason_of(int code) {
-    return std::generic_category().message(code);
-}
-
 }  // namespace
 
 void Failures::system(int code, std::optional<ImagePos> position) const {
-    if (kind_ == Kind::file) throw FileError(path_, position, reason_of(code));
+    if (kind_ == Kind::file) throw SystemFileError(path_, position, code);
     throw RuntimeError(means_no_room(code) ? error::disk_full : error::device_io);
 }
 
@@ -31,7 +26,8 @@ void Failures::other(int number, const std::string& reason) const {
 }
 
 void Failures::other(int number, int code) const {
-    other(number, reason_of(code));
+    if (kind_ == Kind::file) throw SystemFileError(path_, code);
+    throw RuntimeError(number);
 }
 
 void Failures::another_image() const {

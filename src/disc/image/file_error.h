@@ -33,8 +33,9 @@ private:
 /// The same for a failure that the system has a number for, an errno.
 class SystemFileError : public FileError {
 public:
-    SystemFileError(const std::string& path, int code)
-        : FileError(path, std::system_category().message(code)),
+    SystemFileError(const std::string& path, int code) : SystemFileError(path, std::nullopt, code) {}
+    SystemFileError(const std::string& path, std::optional<std::int64_t> position, int code)
+        : FileError(path, position, std::system_category().message(code)),
           code_(code) {}
 
     int code() const { return code_; }
