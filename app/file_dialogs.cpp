@@ -54,6 +54,16 @@ void lay_out(QFileDialog& dialog) {
     }
 }
 
+/// A file that has an ending gets the one of the filter that is chosen.
+void follow_filter(QFileDialog& dialog) {
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, [&dialog](const QString& filter) {
+        const QFileInfo file(dialog.selectedFiles().value(0));
+        const QString ending = ending_of(filter);
+        if (ending.isEmpty() || file.suffix().isEmpty() || file.isDir()) return;
+        dialog.selectFile(file.completeBaseName() + u'.' + ending);
+    });
+}
+
 }  // namespace
 
 void prepare_file_dialog(QFileDialog& dialog, const QString& title) {
@@ -85,6 +95,7 @@ QString choose_new_file(QWidget* parent, const QString& title, const QStringList
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     dialog.setLabelText(QFileDialog::Accept, QStringLiteral("&Salva"));
     if (!QFileInfo(start).isDir()) dialog.selectFile(QFileInfo(start).fileName());
+    follow_filter(dialog);
     for (;;) {
         QString path = chosen(dialog);
         if (path.isEmpty()) return {};

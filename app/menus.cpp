@@ -39,6 +39,9 @@ Menus::Menus(QMainWindow& window, Binder& binder, SavesStack& saves, Tools& tool
     add_tool(edit, QStringLiteral("&Cerca giocatori…"), QKeySequence::Find, [&tools] { tools.search(); });
 
     QMenu& menu = *bar.addMenu(QStringLiteral("Strumenti"));
+    add_tool(menu, QStringLiteral("&Esporta foglio…"), {}, [&tools] { tools.export_sheet(); });
+    add_tool(menu, QStringLiteral("&Importa foglio…"), {}, [&tools] { tools.import_sheet(); });
+    menu.addSeparator();
     add_tool(menu, QStringLiteral("&Settori…"), {}, [&tools] { tools.sectors(); });
     add_tool(menu, QStringLiteral("&Relazione…"), {}, [&tools] { tools.report(); });
 

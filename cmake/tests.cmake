@@ -138,7 +138,9 @@ add_dependencies(test_help kalco)
 
 target_compile_definitions(test_tools_words PRIVATE KALCO_SOURCE="${PROJECT_SOURCE_DIR}")
 # Its images in memory are those of the core tests.
-target_sources(test_tools_words PRIVATE tests/support/sheet_disc.cpp)
+foreach(name test_tools_words test_tools_sheets)
+    target_sources(${name} PRIVATE tests/support/sheet_disc.cpp)
+endforeach()
 
 # test_screens on the small screens that Kalco is to fit, test_layout with everything twice as large.
 foreach(screen 1024x768 1366x768-144dpi 1920x1080-scale2)

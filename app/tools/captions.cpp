@@ -81,9 +81,13 @@ QString caption_of(const Sheet& sheet, const SheetColumn& column) {
 }
 
 QString caption_of_column(const Sheet* sheet, std::string_view name) {
-    const SheetColumn* const column = sheet == nullptr ? nullptr : sheet->column_named(name);
     const QString own = QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
-    return column == nullptr ? own : QStringLiteral("%1 (%2)").arg(caption_of(*sheet, *column), own);
+    for (const Sheet& each : sheets()) {
+        const SheetColumn* const column = each.column_named(name);
+        if (column == nullptr || (sheet != nullptr && sheet != &each)) continue;
+        return QStringLiteral("%1 (%2)").arg(caption_of(each, *column), own);
+    }
+    return own;
 }
 
 }  // namespace kalco::app

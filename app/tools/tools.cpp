@@ -6,6 +6,8 @@
 #include "app/tools/report_tool.h"
 #include "app/tools/search/search_window.h"
 #include "app/tools/sectors/sectors_dialog.h"
+#include "app/tools/sheets/export_tool.h"
+#include "app/tools/sheets/import_dialog.h"
 
 namespace kalco::app {
 namespace {
@@ -52,6 +54,14 @@ void Tools::sectors() {
 
 void Tools::report() {
     write_report(desk_, window_);
+}
+
+void Tools::export_sheet() {
+    export_sheets(desk_, window_);
+}
+
+void Tools::import_sheet() {
+    import_sheets(desk_, window_);
 }
 
 }  // namespace kalco::app

@@ -23,6 +23,8 @@ public:
     void search();
     void sectors();
     void report();
+    void export_sheet();
+    void import_sheet();
 
 private:
     template <typename Dialog>
