@@ -41,6 +41,8 @@ Menus::Menus(QMainWindow& window, Binder& binder, SavesStack& saves, Tools& tool
     QMenu& menu = *bar.addMenu(QStringLiteral("Strumenti"));
     add_tool(menu, QStringLiteral("&Esporta foglio…"), {}, [&tools] { tools.export_sheet(); });
     add_tool(menu, QStringLiteral("&Importa foglio…"), {}, [&tools] { tools.import_sheet(); });
+    add_tool(menu, QStringLiteral("&Confronta con un'altra immagine…"), {}, [&tools] { tools.compare(); });
+    add_tool(menu, QStringLiteral("&Patch…"), {}, [&tools] { tools.patch(); });
     menu.addSeparator();
     add_tool(menu, QStringLiteral("&Settori…"), {}, [&tools] { tools.sectors(); });
     add_tool(menu, QStringLiteral("&Relazione…"), {}, [&tools] { tools.report(); });

@@ -138,7 +138,7 @@ add_dependencies(test_help kalco)
 
 target_compile_definitions(test_tools_words PRIVATE KALCO_SOURCE="${PROJECT_SOURCE_DIR}")
 # Its images in memory are those of the core tests.
-foreach(name test_tools_words test_tools_sheets)
+foreach(name test_tools_words test_tools_sheets test_tools_compare test_tools_patch)
     target_sources(${name} PRIVATE tests/support/sheet_disc.cpp)
 endforeach()
 

@@ -5,7 +5,6 @@
 #include "ctl/table_json.h"
 #include "disc/codec/latin1.h"
 #include "disc/codec/utf8.h"
-#include "work/sheets/known_bits.h"
 #include "work/sheets/sheets.h"
 
 namespace kalco::ctl {
@@ -20,25 +19,9 @@ std::string conflict_line(const FieldChange& difference) {
            ", the image has " + or_quotes(difference.new_cell());
 }
 
-std::string conflict_line(ImagePos position, std::size_t bytes) {
-    return "position " + std::to_string(position) + ": the patch expects " + std::to_string(bytes) + " other bytes";
-}
-
-bool in_a_field(ImagePos position) {
-    const auto known = known_bits().find((position - 1) / sector_bytes);
-    return known != known_bits().end() && known->second[static_cast<std::size_t>((position - 1) % sector_bytes)] != 0;
-}
-
-/// The stretches of a conflict that are chosen by position, as lines.
-template <typename Chosen>
-void add_lines(const PatchConflict& conflict, Chosen chosen, std::vector<std::string>& lines) {
-    const auto size = static_cast<ImagePos>(conflict.found.size());
-    for (ImagePos from = 0; from < size;) {
-        ImagePos end = from;
-        while (end < size && chosen(conflict.position + end)) ++end;
-        if (end > from) lines.push_back(conflict_line(conflict.position + from, static_cast<std::size_t>(end - from)));
-        from = end + 1;
-    }
+std::string conflict_line(const ByteRun& run) {
+    return "position " + std::to_string(run.position) + ": the patch expects " + std::to_string(run.bytes) +
+           " other bytes";
 }
 
 const char* kind_of_image(const PpfPatch& patch) {
@@ -91,35 +74,30 @@ std::string text_of_others(std::string_view text) {
 PatchWords::PatchWords(const Image& before) : before_(read_sheets(before)) {}
 
 void PatchWords::see(const Image& after) {
-    changes_ = changes_between(before_, read_sheets(after));
-    others_ = other_differences(after.changes());
+    meaning_ = meaning_of_changes(before_, after);
 }
 
 std::string PatchWords::lines() const {
     std::string text;
-    for (const FieldChange& change : changes_) text += line_of(change) + '\n';
-    for (const ByteRun& run : others_)
+    for (const FieldChange& change : meaning_.fields) text += line_of(change) + '\n';
+    for (const ByteRun& run : meaning_.others)
         text += "position " + std::to_string(run.position) + ": " + std::to_string(run.bytes) + " bytes\n";
     return text;
 }
 
 std::string PatchWords::json() const {
     std::string text;
-    for (const FieldChange& change : changes_) text += json_of_change(change).dump() + '\n';
-    for (const ByteRun& run : others_) text += Json{{"position", run.position}, {"bytes", run.bytes}}.dump() + '\n';
+    for (const FieldChange& change : meaning_.fields) text += json_of_change(change).dump() + '\n';
+    for (const ByteRun& run : meaning_.others)
+        text += Json{{"position", run.position}, {"bytes", run.bytes}}.dump() + '\n';
     return text;
 }
 
 std::vector<std::string> PatchWords::of_conflicts(const std::vector<PatchConflict>& conflicts) const {
-    DiscBytes expected = before_;
-    for (const PatchConflict& conflict : conflicts) expected.put(conflict.position, conflict.expected);
+    const PatchMeaning meaning = meaning_of_conflicts(before_, conflicts);
     std::vector<std::string> lines;
-    for (const FieldChange& difference : changes_between(expected, before_)) lines.push_back(conflict_line(difference));
-    const bool fields_tell = !lines.empty();
-    for (const PatchConflict& conflict : conflicts) {
-        add_lines(
-            conflict, [&](ImagePos position) { return !fields_tell || !in_a_field(position); }, lines);
-    }
+    for (const FieldChange& difference : meaning.fields) lines.push_back(conflict_line(difference));
+    for (const ByteRun& run : meaning.others) lines.push_back(conflict_line(run));
     return lines;
 }
 

@@ -3,9 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "work/change.h"
-#include "work/other_bytes.h"
-#include "work/patch.h"
+#include "work/patch_meaning.h"
 
 namespace kalco::ctl {
 
@@ -30,8 +28,7 @@ public:
 
 private:
     DiscBytes before_;
-    std::vector<FieldChange> changes_;
-    std::vector<ByteRun> others_;
+    PatchMeaning meaning_;
 };
 
 /// Everything that a patch tells about itself.

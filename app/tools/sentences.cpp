@@ -83,6 +83,7 @@ constexpr std::array every_sentence{
     Sentence{"a record for position {}, beyond the image's end",
              "un record per la posizione {}, oltre la fine dell'immagine"},
     Sentence{"the patch has no old bytes to take it back", "la patch non ha i byte di prima, per toglierla"},
+    Sentence{"the image has neither its old nor its new bytes", "l'immagine non ha né i byte di prima né quelli nuovi"},
     Sentence{"the images have different lengths", "le due immagini hanno lunghezze diverse"},
     Sentence{"emulators load a patch of this name with {} by themselves, and a stale one hides later edits; take "
              "another name, or --force",

@@ -2,7 +2,9 @@
 
 #include <QDialog>
 
+#include "app/tools/compare/compare_dialog.h"
 #include "app/tools/copy_tool.h"
+#include "app/tools/patch/patch_dialog.h"
 #include "app/tools/report_tool.h"
 #include "app/tools/search/search_window.h"
 #include "app/tools/sectors/sectors_dialog.h"
@@ -62,6 +64,14 @@ void Tools::export_sheet() {
 
 void Tools::import_sheet() {
     import_sheets(desk_, window_);
+}
+
+void Tools::compare() {
+    compare_images(desk_, window_);
+}
+
+void Tools::patch() {
+    open<PatchDialog>();
 }
 
 }  // namespace kalco::app

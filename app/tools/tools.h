@@ -25,6 +25,8 @@ public:
     void report();
     void export_sheet();
     void import_sheet();
+    void compare();
+    void patch();
 
 private:
     template <typename Dialog>

@@ -10,15 +10,11 @@
 #include <QTreeView>
 #include <QtTest>
 
-#include "app/saves_stack.h"
-#include "app/status_line.h"
-#include "app/support/dialogs.h"
-#include "app/support/test_window.h"
+#include "app/support/tool_desk.h"
 #include "app/tools/changes/changes_view.h"
 #include "app/tools/sheets/import_dialog.h"
 #include "disc/image/opening.h"
 #include "support/faulty_files.h"
-#include "support/sheet_disc.h"
 #include "work/csv.h"
 #include "work/sheet_tables.h"
 
@@ -26,38 +22,19 @@ using namespace kalco;
 
 namespace {
 
-QByteArray bytes_of(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
+using test::bytes_of;
+using test::child;
+using test::rows_of;
 
-void write_file(const QString& path, const QByteArray& bytes) {
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-}
+/// The desk with the import's dialog.
+struct Desk : test::ToolDesk {
+    using ToolDesk::ToolDesk;
 
-template <typename Widget>
-Widget& child(QWidget& of, const char* name) {
-    auto* const found = of.findChild<Widget*>(QLatin1String(name));
-    if (found == nullptr) throw std::invalid_argument(std::string("no widget ") + name);
-    return *found;
-}
-
-/// A window on a demo image, and the menu of tools.
-struct Desk {
-    explicit Desk(StorageOpener opener = open_file) : t(home.image(), home.path(), std::move(opener)) {}
-
-    QString path(const char* name) const { return QString::fromStdString(home.path()) + u'/' + QLatin1String(name); }
-    void choose(const char* item) { test::choose_menu(t.window, QStringLiteral("Strumenti"), QLatin1String(item)); }
-    QString told() { return t.window.findChild<app::StatusLine*>()->text(); }
-    std::string cell(const char* id, const char* column, const char* sheet = "players") {
-        return test::cell(test::sheets_of(home.image_bytes()), sheet, id, column);
-    }
     app::ImportDialog* import_dialog() { return t.window.findChild<app::ImportDialog*>(); }
 
     /// Writes a file and opens the import on it.
     app::ImportDialog& import(const char* name, const QByteArray& bytes) {
-        write_file(path(name), bytes);
+        test::write_file(path(name), bytes);
         answers.choose(path(name));
         choose("Importa foglio");
         if (import_dialog() == nullptr) throw std::logic_error("the import did not open");
@@ -65,29 +42,7 @@ struct Desk {
     }
     app::ChangesModel& changes() { return import_dialog()->findChild<app::ChangesView*>()->model(); }
     QPushButton& apply() { return child<QPushButton>(*import_dialog(), "buttonApply"); }
-    void undo() {
-        test::choose_menu(t.window, QStringLiteral("Modifica"), QStringLiteral("Annulla"));
-        QApplication::processEvents();
-    }
-
-    test::DemoHome home;
-    test::TestWindow t;
-    test::Answers answers;
 };
-
-/// "Italy|1. Rossi|Velocità|15|17": all rows that are shown.
-QStringList rows_of(const QAbstractItemModel& model) {
-    QStringList rows;
-    for (int group = 0; group < model.rowCount(); ++group) {
-        const QModelIndex branch = model.index(group, 0);
-        for (int row = 0; row < model.rowCount(branch); ++row) {
-            QStringList cells{branch.data().toString()};
-            for (int column = 0; column < 4; ++column) cells << model.index(row, column, branch).data().toString();
-            rows << cells.join(u'|');
-        }
-    }
-    return rows;
-}
 
 QByteArray csv_of(const std::string& text) {
     return QByteArray::fromStdString(text);
@@ -338,7 +293,7 @@ private Q_SLOTS:
         QVERIFY(!desk.apply().isEnabled());
         QVERIFY(QTest::qWaitForWindowActive(&dialog));
         QTest::keyClick(&dialog, Qt::Key_I, Qt::AltModifier);
-        QVERIFY(force.isChecked());
+        QTRY_VERIFY(force.isChecked());
         QCOMPARE(desk.changes().chosen_count(), 1);
         QTest::mouseClick(&desk.apply(), Qt::LeftButton);
         QTRY_VERIFY(desk.import_dialog() == nullptr);

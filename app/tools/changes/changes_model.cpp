@@ -68,6 +68,17 @@ void ChangesModel::show_changes(std::vector<FieldChange> changes, const DiscByte
     Q_EMIT chosen_changed();
 }
 
+void ChangesModel::clear() {
+    beginResetModel();
+    changes_.clear();
+    ticked_.clear();
+    turned_.clear();
+    groups_.clear();
+    shown_.clear();
+    endResetModel();
+    Q_EMIT chosen_changed();
+}
+
 void ChangesModel::group_rows() {
     groups_.clear();
     std::map<int, std::size_t> places;

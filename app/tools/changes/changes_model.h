@@ -28,6 +28,7 @@ public:
     /// `disc` gives the names of players. What the user has ticked or not stays so, where the same field is there
     /// again.
     void show_changes(std::vector<FieldChange> changes, const DiscBytes& disc);
+    void clear();
     /// Shows the rows that have all words of the text, in any of their columns.
     void filter(const QString& text);
     /// Ticks all rows that are shown, or none of them.
