@@ -117,7 +117,7 @@ function(add_window_program name)
     endif()
 endfunction()
 
-foreach(tool window_script window_picture)
+foreach(tool window_script window_picture sheets_picture)
     file(GLOB tool_sources CONFIGURE_DEPENDS tests/app/${tool}/*.cpp tests/app/${tool}/*.h)
     add_window_program(${tool} ${tool_sources})
 endforeach()

@@ -14,7 +14,7 @@
 namespace kalco::app {
 namespace {
 
-/// Blank ticks the chosen rows, whichever column has the keyboard.
+/// Blank ticks the selected rows as the one with the keyboard, whichever column that is in.
 class RowsTree : public QTreeView {
 public:
     using QTreeView::QTreeView;
@@ -25,16 +25,20 @@ protected:
             return QTreeView::keyPressEvent(event);
         }
         auto& changes = static_cast<ChangesModel&>(*model());
-        const QModelIndexList rows = selectionModel()->selectedRows();
-        for (const QModelIndex& row : rows) changes.toggle(row);
+        const bool ticked = currentIndex().siblingAtColumn(0).data(Qt::CheckStateRole).toInt() == Qt::Checked;
+        QModelIndexList rows = selectionModel()->selectedRows();
+        if (rows.isEmpty()) rows << currentIndex().siblingAtColumn(0);
+        for (const QModelIndex& row : rows) {
+            changes.setData(row, ticked ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
+        }
     }
 };
 
 void set_widths(QTreeView& rows) {
     const int character = rows.fontMetrics().averageCharWidth();
-    rows.setColumnWidth(ChangesModel::owner, 34 * character);
+    rows.setColumnWidth(ChangesModel::owner, 30 * character);
     rows.setColumnWidth(ChangesModel::field, 22 * character);
-    rows.setColumnWidth(ChangesModel::before, 24 * character);
+    rows.setColumnWidth(ChangesModel::before, 30 * character);
 }
 
 }  // namespace

@@ -49,7 +49,8 @@ void PatchMakePage::choose() {
     if (!open_other_image(window(), *original, path, desk_)) return;
     original_ = std::move(original);
     original_path_ = path;
-    ui_->editOriginal->setText(QDir::toNativeSeparators(path));
+    ui_->editOriginal->setText(QFileInfo(path).fileName());
+    ui_->editOriginal->setToolTip(QDir::toNativeSeparators(path));
     ui_->buttonMake->setEnabled(true);
 }
 

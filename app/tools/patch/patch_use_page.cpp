@@ -77,10 +77,10 @@ void PatchUsePage::choose() {
 
 void PatchUsePage::open_patch(const QString& path) {
     try {
-        std::unique_ptr<const PpfPatch> patch;
+        std::shared_ptr<const PpfPatch> patch;
         const QString doing = QStringLiteral("Lettura di %1").arg(QFileInfo(path).fileName());
         const bool read = run_job(window(), doing, [&](Job& job) {
-            patch = std::make_unique<const PpfPatch>(ctl::read_file(path.toStdString(), most_patch_bytes));
+            patch = std::make_shared<const PpfPatch>(ctl::read_file(path.toStdString(), most_patch_bytes));
             job(0);
         });
         if (!read) return;
@@ -89,7 +89,8 @@ void PatchUsePage::open_patch(const QString& path) {
         return tell_failure(window(), QStringLiteral("La patch non si legge: %1.").arg(words_of(failure)));
     }
     path_ = path;
-    ui_->editPath->setText(QDir::toNativeSeparators(path));
+    ui_->editPath->setText(QFileInfo(path).fileName());
+    ui_->editPath->setToolTip(QDir::toNativeSeparators(path));
     ui_->labelAbout->setText(about(*patch_));
     ui_->radioUndo->setEnabled(patch_->has_undo());
     ui_->radioApply->setChecked(true);
@@ -108,17 +109,19 @@ void PatchUsePage::try_on() {
         ui_->radioUndo->setEnabled(false);
         return ui_->labelResult->setText(QStringLiteral("Scegli una patch: qui si vede che cosa cambierebbe."));
     }
+    const int number = ++trials_;
     try {
         std::optional<PatchTrial> trial;
-        const bool done =
-            run_job(window(), QStringLiteral("Prova di %1").arg(QFileInfo(path_).fileName()), [&](Job& job) {
-                trial.emplace(try_patch(*image, *patch_, way()));
-                job(0);
-            });
+        const QString doing = QStringLiteral("Prova di %1").arg(QFileInfo(path_).fileName());
+        const bool done = run_job(window(), doing, [&trial, image, patch = patch_, way = way()](Job& job) {
+            trial.emplace(try_patch(*image, *patch, way));
+            job(0);
+        });
+        if (number != trials_) return;
         if (done) return show_trial(*trial);
         show_failure(QStringLiteral("la prova è stata annullata"));
     } catch (const std::exception& failure) {
-        show_failure(words_of(failure));
+        if (number == trials_) show_failure(words_of(failure));
     }
 }
 
@@ -135,7 +138,7 @@ void PatchUsePage::show_trial(const PatchTrial& trial) {
     if (trial.in_conflict()) {
         model.set_value_titles(QStringLiteral("La patch si aspetta"), QStringLiteral("L'immagine ha"));
         ui_->viewChanges->show_changes(trial.conflicts.fields, trial.disc);
-        result += QStringLiteral("Non si può %1: nell'immagine sono diversi %2.")
+        result += QStringLiteral("Non si può %1, perché l'immagine ha altri valori: %2.")
                       .arg(back ? QStringLiteral("togliere") : QStringLiteral("applicare"), amount(trial.conflicts));
     } else {
         model.set_value_titles(QStringLiteral("Prima"), QStringLiteral("Dopo"));
@@ -162,8 +165,8 @@ void PatchUsePage::save() {
     saving_ = true;
     const Desk::Saved saved =
         desk_.save(window(), (back ? QStringLiteral("Patch tolta: %1") : QStringLiteral("Patch: %1")).arg(name),
-                   [this](Image& image, Job& job) {
-                       const auto conflicts = write_patch(image, *patch_, way());
+                   [patch = patch_, way = way()](Image& image, Job& job) {
+                       const auto conflicts = write_patch(image, *patch, way);
                        if (!conflicts.empty()) throw PpfError("the image has neither its old nor its new bytes");
                        job(0);
                    });

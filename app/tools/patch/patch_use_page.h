@@ -36,7 +36,8 @@ private:
     std::unique_ptr<Ui::PatchUsePage> ui_;
     Desk& desk_;
     QString path_;
-    std::unique_ptr<const PpfPatch> patch_;
+    std::shared_ptr<const PpfPatch> patch_;
+    int trials_ = 0;  ///< Only the last one that was begun counts.
     bool fits_ = true;
     bool saving_ = false;
 };
