@@ -92,6 +92,15 @@ QString key_of(QStyle::PrimitiveElement element, const QStyleOption& option) {
     return QStringLiteral("piece %1 %2 %3").arg(element).arg(option.state.toInt()).arg(option.palette.cacheKey());
 }
 
+/// On a dark list nothing else tells an empty box from its ground.
+void draw_edge_of_box(QPainter& painter, const QStyleOption& option) {
+    painter.save();
+    painter.setPen(faint(option.palette.color(QPalette::Text), option.palette.color(QPalette::Base)));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(option.rect.adjusted(0, 0, -1, -1));
+    painter.restore();
+}
+
 }  // namespace
 
 Style::Style() : QProxyStyle(QStringLiteral("Fusion")) {}
@@ -151,6 +160,7 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
     if (element == PE_PanelLineEdit && widget != nullptr && is_marked_unsaved(*widget)) {
         draw_unsaved_edge(*painter, *option);
     }
+    if (element == PE_IndicatorItemViewItemCheck) draw_edge_of_box(*painter, *option);
 }
 
 void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,

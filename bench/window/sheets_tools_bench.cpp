@@ -42,8 +42,8 @@ std::string changed_players(const Image& image, ctl::TableFormat format) {
 
 void show(QWidget& dialog) {
     dialog.show();
-    QApplication::processEvents();
     dialog.repaint();
+    QApplication::processEvents();
 }
 
 void check(app::ImportDialog& dialog) {
@@ -76,8 +76,8 @@ void plan_anew(benchmark::State& state) {
     show(dialog);
     for (auto _ : state) {
         Q_EMIT desk.image_changed();
-        QApplication::processEvents();
         dialog.repaint();
+        QApplication::processEvents();
     }
     check(dialog);
 }
@@ -104,8 +104,8 @@ void filter_the_preview(benchmark::State& state) {
     int round = 0;
     for (auto _ : state) {
         filter.setText(++round % 2 == 0 ? QStringLiteral("a") : QStringLiteral("ar"));
-        QApplication::processEvents();
         dialog.repaint();
+        QApplication::processEvents();
     }
 }
 

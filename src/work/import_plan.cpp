@@ -129,12 +129,12 @@ private:
             if (cell == held || (takes_text(field) && cell == empty_text_cell)) return;
             return complain(number, column.name, in_quotes(cell) + ": read-only here");
         }
-        FieldValue before = stored_value(disc_, column, row);
+        FieldValue before = stored_value(disc_, field, *place);
         if (cell == cell_of(column, before)) return;
         CellReading reading = read_cell(column, *place, cell);
         if (!reading.mistake.empty()) return complain(number, column.name, in_quotes(cell) + ": " + reading.mistake);
         if (reading.value == before) return;
-        const FieldValue planned = stored_value(plan_.after, column, row);
+        const FieldValue planned = stored_value(plan_.after, field, *place);
         if (planned != before && planned != reading.value) {
             return complain(number, column.name,
                             in_quotes(cell) + ": another row with the same record has " +

@@ -36,7 +36,7 @@ protected:
 
 void set_widths(QTreeView& rows) {
     const int character = rows.fontMetrics().averageCharWidth();
-    rows.setColumnWidth(ChangesModel::owner, 30 * character);
+    rows.setColumnWidth(ChangesModel::owner, 32 * character);
     rows.setColumnWidth(ChangesModel::field, 22 * character);
     rows.setColumnWidth(ChangesModel::before, 30 * character);
 }

@@ -102,10 +102,13 @@ CellReading read_link(std::string_view cell) {
 
 FieldValue stored_value(const DiscBytes& disc, const SheetColumn& column, int row) {
     const auto place = column.place(row);
-    if (!place) return {};
-    if (place->bits.width > 0) return disc.bits(place->bytes, place->bits);
-    std::string bytes = disc.read(place->bytes);
-    if (column.field->kind != FieldKind::link) bytes.resize(until_zero(bytes).size());
+    return place ? stored_value(disc, *column.field, *place) : FieldValue();
+}
+
+FieldValue stored_value(const DiscBytes& disc, const Field& field, const FieldPlace& place) {
+    if (place.bits.width > 0) return disc.bits(place.bytes, place.bits);
+    std::string bytes = disc.read(place.bytes);
+    if (field.kind != FieldKind::link) bytes.resize(until_zero(bytes).size());
     return bytes;
 }
 

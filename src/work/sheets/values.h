@@ -15,6 +15,8 @@ namespace kalco {
 using FieldValue = std::variant<std::monostate, unsigned, std::string>;
 
 FieldValue stored_value(const DiscBytes& disc, const SheetColumn& column, int row);
+/// The same where the place is known.
+FieldValue stored_value(const DiscBytes& disc, const Field& field, const FieldPlace& place);
 /// The value must be one that read_cell gives for that place.
 void store_value(DiscBytes& disc, const SheetColumn& column, int row, const FieldValue& value);
 
