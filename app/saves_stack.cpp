@@ -34,6 +34,8 @@ SavesStack::SavesStack(Binder& binder) : binder_(binder), history_(binder.form()
 
 SavesStack::~SavesStack() {
     history_.changed = nullptr;
+    // The base class empties itself and tells so, when there is nobody left to hear it.
+    disconnect(this, &QUndoStack::indexChanged, this, nullptr);
 }
 
 void SavesStack::travel(bool back) {

@@ -188,7 +188,7 @@ private:
 
     /// The column's texts: numbers by value, roles as the first tab lists them, others by their letters.
     static bool rises(QStringList texts, int column) {
-        using namespace app::player_column;
+        using enum app::player_column::Column;
         static const QStringList roles{"P", "TER", "DC", "CC", "CL", "CO", "AL", "CA"};
         static const QStringList feet{"Destro", "Sinistro", "Ambi"};
         texts.removeAll(QString());

@@ -62,7 +62,7 @@ private Q_SLOTS:
 private:
     /// Every value of the ticked ones, with a star at the best where there is a worse one.
     static void check_comparison(const test::Search& search, const app::PlayersModel& model) {
-        using namespace app::player_column;
+        using enum app::player_column::Column;
         const QAbstractItemModel& shown = *search.comparison().model();
         QCOMPARE(shown.rowCount(), static_cast<int>(count));
         int stars = 0;
@@ -73,7 +73,7 @@ private:
                 if (!text.isEmpty()) numbers << text.toInt();
             }
             const bool less = row == age || row == cost;
-            const bool ranked = is_skill(row) || row == height || less;
+            const bool ranked = app::player_column::is_skill(row) || row == height || less;
             const bool differ =
                 !numbers.isEmpty() && *std::ranges::max_element(numbers) != *std::ranges::min_element(numbers);
             const int best = numbers.isEmpty() ? 0

@@ -128,7 +128,7 @@ private:
 
     /// Saves another name on the first tab; gives the one before.
     static std::string rename(test::TestWindow& t, int player, const std::string& name) {
-        const auto& place = std::get<RosterPlace>(place_of_row(player));
+        const auto place = std::get<RosterPlace>(place_of_row(player));
         frmKalco& form = t.form();
         std::string was;
         t.binder().act([&] {

@@ -16,8 +16,8 @@ namespace {
 enum class Better { none, more, less };
 
 Better better(int column) {
-    using namespace player_column;
-    if (is_skill(column) || column == height) return Better::more;
+    using enum player_column::Column;
+    if (player_column::is_skill(column) || column == height) return Better::more;
     return column == age || column == cost ? Better::less : Better::none;
 }
 

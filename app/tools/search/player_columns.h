@@ -5,7 +5,7 @@
 /// The columns of the search's table: the name with tick and portrait, facts, the sixteen skills, the cost.
 namespace kalco::app::player_column {
 
-enum : int {
+enum Column : int {
     name,
     team,
     role,

@@ -49,19 +49,19 @@ void PlayerDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option
     paint_cell(*painter, option, index);
 }
 
-void PlayerDelegate::paint_name(QPainter& painter, const QStyleOptionViewItem& given, const QModelIndex& index) const {
-    QStyleOptionViewItem option = given;
-    initStyleOption(&option, index);
+void PlayerDelegate::paint_name(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
+    QStyleOptionViewItem styled = option;
+    initStyleOption(&styled, index);
     const QStyle& style = option.widget == nullptr ? *QApplication::style() : *option.widget->style();
-    style.drawControl(QStyle::CE_ItemViewItem, &option, &painter, option.widget);
+    style.drawControl(QStyle::CE_ItemViewItem, &styled, &painter, option.widget);
     const bool selected = option.state.testFlag(QStyle::State_Selected);
     const QColor ink = option.palette.color(selected ? QPalette::HighlightedText : QPalette::Text);
     const QColor ground = option.palette.color(selected ? QPalette::Highlight : QPalette::Base);
     // On a dark desktop the style's own frame can't be seen.
     painter.setPen(faint(ink, ground, 0.4));
     painter.drawRect(
-        style.subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option, option.widget).adjusted(0, 0, -1, -1));
-    paint_portrait(painter, style.subElementRect(QStyle::SE_ItemViewItemDecoration, &option, option.widget).topLeft(),
+        style.subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &styled, styled.widget).adjusted(0, 0, -1, -1));
+    paint_portrait(painter, style.subElementRect(QStyle::SE_ItemViewItemDecoration, &styled, styled.widget).topLeft(),
                    model_.player_in(index.row()));
 }
 

@@ -62,8 +62,8 @@ void PlayerSearch::unsort() {
     order_anew();
 }
 
-PlayerSearch::Keys PlayerSearch::keys_of(const ReportPlayer& player) const {
-    using namespace player_column;
+PlayerSearch::Keys PlayerSearch::keys_of(const ReportPlayer& player) {
+    using enum player_column::Column;
     Keys keys;
     keys.name = folded(player.name);
     keys.role = place_in(role_texts, player.role);

@@ -46,7 +46,7 @@ private:
         int role = -1;                                  ///< By the order of role_texts.
     };
 
-    Keys keys_of(const ReportPlayer& player) const;
+    static Keys keys_of(const ReportPlayer& player);
     void order_texts();
     void order_anew();
     void order_by(int column, bool falling);

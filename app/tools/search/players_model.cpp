@@ -155,8 +155,8 @@ QVariant PlayersModel::headerData(int section, Qt::Orientation orientation, int 
 }
 
 QString caption_of(int column) {
-    using namespace player_column;
-    if (is_skill(column)) return qt_text(skill_bits.at(skill_of(column)).caption);
+    using enum player_column::Column;
+    if (player_column::is_skill(column)) return qt_text(skill_bits.at(skill_of(column)).caption);
     switch (column) {
         case name: return QStringLiteral("Giocatore");
         case team: return QStringLiteral("Squadra");
@@ -170,8 +170,8 @@ QString caption_of(int column) {
 }
 
 QString text_of(const Report& report, const ReportPlayer& player, int column) {
-    using namespace player_column;
-    if (is_skill(column)) return QString::number(player.skills.at(skill_of(column)));
+    using enum player_column::Column;
+    if (player_column::is_skill(column)) return QString::number(player.skills.at(skill_of(column)));
     switch (column) {
         case name: return QString::fromStdString(player.name);
         case team: return title_of(report, player.team);

@@ -184,7 +184,7 @@ void SearchWindow::change_rows(Scroll scroll, const std::function<void()>& chang
     const int scrolled = table.verticalScrollBar()->value();
     change();
     table.doItemsLayout();
-    choose(player, chosen.column());
+    choose(player, chosen);
     if (scroll == Scroll::stay) {
         table.verticalScrollBar()->setValue(scrolled);
     } else if (table.currentIndex().isValid()) {
@@ -195,10 +195,11 @@ void SearchWindow::change_rows(Scroll scroll, const std::function<void()>& chang
     show_count();
 }
 
-void SearchWindow::choose(int player, int column) {
+void SearchWindow::choose(int player, const QModelIndex& before) {
     const int row = player < 0 ? -1 : players_.row_of(player);
-    ui_->tablePlayers->selectionModel()->setCurrentIndex(
-        players_.index(row, std::max(column, 0)), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    ui_->tablePlayers->selectionModel()->setCurrentIndex(players_.index(row, std::max(before.column(), 0)),
+                                                         QItemSelectionModel::ClearAndSelect |
+                                                             QItemSelectionModel::Rows);
 }
 
 void SearchWindow::show_ticks() {
@@ -261,7 +262,7 @@ void SearchWindow::take_from_comparison() {
 void SearchWindow::go() {
     const int player = chosen_player();
     if (player < 0) return;
-    if (players_.row_of(player) >= 0) choose(player, ui_->tablePlayers->currentIndex().column());
+    if (players_.row_of(player) >= 0) choose(player, ui_->tablePlayers->currentIndex());
     desk_.show_player(place_of_row(player));
 }
 

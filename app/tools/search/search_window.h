@@ -40,7 +40,8 @@ private:
     void read();
     void filter();
     void change_rows(Scroll scroll, const std::function<void()>& change);
-    void choose(int player, int column);
+    /// In the column where the frame was before.
+    void choose(int player, const QModelIndex& before);
     void show_ticks();
     void show_count();
     void refuse_tick();
