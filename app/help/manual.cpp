@@ -9,6 +9,7 @@
 #include <QTextDocument>
 #include <QUrl>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <vector>
 
 namespace kalco::app {
@@ -52,8 +53,7 @@ void Manual::fit_pictures() {
     }
     for (const QTextFragment& fragment : pictures) {
         QTextImageFormat picture = fragment.charFormat().toImageFormat();
-        picture.setWidth(picture_width);
-        take_smooth_picture(picture.name(), qRound(picture_width * devicePixelRatioF()));
+        picture.setWidth(take_smooth_picture(picture.name(), picture_width));
         QTextCursor cursor(pages_->document());
         cursor.setPosition(fragment.position());
         cursor.setPosition(fragment.position() + fragment.length(), QTextCursor::KeepAnchor);
@@ -61,12 +61,16 @@ void Manual::fit_pictures() {
     }
 }
 
-void Manual::take_smooth_picture(const QString& name, int pixels) {
-    // The browser would leave out pixels, and with them half the letters.
+double Manual::take_smooth_picture(const QString& name, double most) {
     const QImage whole(QStringLiteral(":/manual/") + name);
-    if (whole.width() <= pixels) return;
-    pages_->document()->addResource(QTextDocument::ImageResource, QUrl(name),
-                                    whole.scaledToWidth(pixels, Qt::SmoothTransformation));
+    const double width = std::min<double>(most, whole.width());
+    const int pixels = qRound(width * devicePixelRatioF());
+    // The browser would leave out pixels, and with them half the letters.
+    if (pixels < whole.width()) {
+        pages_->document()->addResource(QTextDocument::ImageResource, QUrl(name),
+                                        whole.scaledToWidth(pixels, Qt::SmoothTransformation));
+    }
+    return width;
 }
 
 QString heading_anchor(const QString& heading) {

@@ -18,7 +18,8 @@ public:
 private:
     void give_headings_anchors();
     void fit_pictures();
-    void take_smooth_picture(const QString& name, int pixels);
+    /// Its width in the page, at most `most`; never enlarged.
+    double take_smooth_picture(const QString& name, double most);
 
     QTextBrowser* pages_;
 };

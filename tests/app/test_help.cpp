@@ -91,7 +91,9 @@ private Q_SLOTS:
                 if (!part.fragment().charFormat().isImageFormat()) continue;
                 const QTextImageFormat format = part.fragment().charFormat().toImageFormat();
                 const auto shown = document.resource(QTextDocument::ImageResource, QUrl(format.name())).value<QImage>();
-                QCOMPARE(shown.width(), qRound(format.width() * manual.devicePixelRatioF()));
+                const int whole = QImage(QStringLiteral(":/manual/") + format.name()).width();
+                QVERIFY(whole > 0 && format.width() <= whole);
+                QCOMPARE(shown.width(), std::min(whole, qRound(format.width() * manual.devicePixelRatioF())));
             }
         }
     }
