@@ -81,7 +81,7 @@ QString caption_of(const Sheet& sheet, const SheetColumn& column) {
 }
 
 QString caption_of_column(const Sheet* sheet, std::string_view name) {
-    const QString own = QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
+    QString own = QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
     for (const Sheet& each : sheets()) {
         const SheetColumn* const column = each.column_named(name);
         if (column == nullptr || (sheet != nullptr && sheet != &each)) continue;

@@ -8,7 +8,7 @@ namespace {
 constexpr std::array every_sentence{
     // What stands around other sentences.
     Sentence{"{} (sheet {})", "{t} (foglio {s})"},
-    Sentence{"\"{}\": another row with the same record has \"{}\"",
+    Sentence{R"("{}": another row with the same record has "{}")",
              "«{}»: un'altra riga con gli stessi dati sul disco ha «{}»"},
     Sentence{"\"{}\": {}", "«{}»: {t}"},
 

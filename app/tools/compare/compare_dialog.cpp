@@ -44,12 +44,12 @@ std::string file_of_changes(const std::vector<FieldChange>& changes, const Sheet
 
 }  // namespace
 
-CompareDialog::CompareDialog(Desk& desk, std::unique_ptr<Image> other, const QString& path, QWidget* parent)
+CompareDialog::CompareDialog(Desk& desk, std::unique_ptr<Image> other, QString path, QWidget* parent)
     : QDialog(parent),
       ui_(std::make_unique<Ui::CompareDialog>()),
       desk_(desk),
       other_(std::move(other)),
-      path_(path) {
+      path_(std::move(path)) {
     ui_->setupUi(this);
     setWindowTitle(QStringLiteral("Confronto con %1").arg(name_of(path_)));
     ChangesView& view = *ui_->viewChanges;

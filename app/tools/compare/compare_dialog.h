@@ -20,7 +20,7 @@ class CompareDialog : public QDialog {
 
 public:
     /// The other image is open already.
-    CompareDialog(Desk& desk, std::unique_ptr<Image> other, const QString& path, QWidget* parent = nullptr);
+    CompareDialog(Desk& desk, std::unique_ptr<Image> other, QString path, QWidget* parent = nullptr);
     ~CompareDialog() override;
 
     /// Counts the places outside all fields, in a box with the progress.

@@ -40,7 +40,7 @@ QString about(const PpfPatch& patch) {
 
 /// "3 campi e 2 altri posti".
 QString amount(const PatchMeaning& meaning) {
-    const QString fields = count_of_fields(static_cast<int>(meaning.fields.size()));
+    QString fields = count_of_fields(static_cast<int>(meaning.fields.size()));
     const auto others = meaning.others.size();
     if (others == 0) return fields;
     return others == 1 ? QStringLiteral("%1 e un posto fuori dai campi").arg(fields)

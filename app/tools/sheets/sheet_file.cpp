@@ -1,6 +1,7 @@
 #include "app/tools/sheets/sheet_file.h"
 
 #include <QDialog>
+#include <QDir>
 #include <QFileInfo>
 #include <QPushButton>
 #include <array>

@@ -25,8 +25,8 @@ void Failures::other(int number, const std::string& reason) const {
     throw RuntimeError(number);
 }
 
-void Failures::other(int number, int code) const {
-    if (kind_ == Kind::file) throw SystemFileError(path_, code);
+void Failures::other(int number, std::errc code) const {
+    if (kind_ == Kind::file) throw SystemFileError(path_, static_cast<int>(code));
     throw RuntimeError(number);
 }
 

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <system_error>
 #include <utility>
 
 #include "disc/image/position.h"
@@ -19,7 +20,7 @@ public:
     [[noreturn]] void system(int code, std::optional<ImagePos> position = {}) const;
     /// A run-time error of this number, or the reason.
     [[noreturn]] void other(int number, const std::string& reason) const;
-    [[noreturn]] void other(int number, int code) const;
+    [[noreturn]] void other(int number, std::errc code) const;
     /// The journal is that of another image.
     [[noreturn]] void another_image() const;
 

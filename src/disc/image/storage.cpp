@@ -16,10 +16,10 @@ Descriptor open_existing(FileSystem& files, const std::string& path, FileSystem:
     if (const int failure = file.failure()) {
         // An empty path is that of a dialog that was cancelled, and no name of a file.
         const bool missing = failure == ENOENT && !path.empty();
-        failures.other(missing ? error::file_not_found : error::path_access, failure);
+        failures.other(missing ? error::file_not_found : error::path_access, static_cast<std::errc>(failure));
     }
     FileSystem::About about;
-    if (const int failure = file.about(about)) failures.other(error::path_access, failure);
+    if (const int failure = file.about(about)) failures.other(error::path_access, static_cast<std::errc>(failure));
     if (about.kind == FileSystem::Kind::other) failures.other(error::path_access, "this is no file");
     kind = about.kind;
     return file;
