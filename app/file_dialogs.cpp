@@ -1,12 +1,15 @@
 #include "app/file_dialogs.h"
 
+#include <QDir>
 #include <QFileDialog>
 #include <QFileIconProvider>
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QRegularExpression>
 #include <QScreen>
+#include <QSplitter>
 #include <QTreeView>
+#include <QUrl>
 
 #include "app/tools/message.h"
 
@@ -46,6 +49,10 @@ public:
 void lay_out(QFileDialog& dialog) {
     constexpr QSize wished(760, 480);
     dialog.resize(wished.boundedTo(dialog.screen()->availableSize()));
+    if (auto* const halves = dialog.findChild<QSplitter*>(QStringLiteral("splitter"))) {
+        constexpr int places = 170;
+        halves->setSizes({places, dialog.width() - places});
+    }
     auto* const files = dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
     if (files == nullptr) return;
     for (int column = 0; column < files->header()->count(); ++column) {
@@ -72,6 +79,8 @@ void prepare_file_dialog(QFileDialog& dialog, const QString& title) {
     dialog.setWindowTitle(title);
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setIconProvider(new FileKinds(&dialog));
+    // Qt remembers the places of all dialogs that there ever were.
+    dialog.setSidebarUrls({QUrl(QStringLiteral("file:")), QUrl::fromLocalFile(QDir::homePath())});
     lay_out(dialog);
     dialog.setLabelText(QFileDialog::LookIn, QStringLiteral("Cerca in:"));
     dialog.setLabelText(QFileDialog::FileName, QStringLiteral("&Nome file:"));

@@ -91,7 +91,8 @@ void Binder::act(const std::function<void()>& action, Focus focus) {
 
 void Binder::sync() {
     syncing_ = true;
-    QWidget* const focused = QApplication::focusWidget();
+    // The window's own, which stands behind a box too.
+    QWidget* const focused = window_.focusWidget();
     for (const auto& view : views_) {
         if (view->marked()) view->sync();
     }

@@ -68,6 +68,8 @@ NamesDraft::NamesDraft(frmKalco& form, Listeners& listeners)
       }),
       form_(form) {
     listeners.after(form.cboSeqSQ.click, [this] { take_names(); });
+    // The file of an import of the No-Contact players fills these fields too, on their hidden tab.
+    listeners.after(form.cmdImpNC.click, [this] { take_names(); });
     for (CommandButton* button : {&form.cmdNew, &form.cmdOpen, &form.cmdSaveNC}) {
         listeners.after(button->click, [this] { note_loaded(); });
     }

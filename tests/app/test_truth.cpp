@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QDialog>
 #include <QDir>
 #include <QDragEnterEvent>
 #include <QFile>
@@ -119,6 +120,34 @@ private Q_SLOTS:
         t_->click(form().cmdSaveNC);
         QCOMPARE(t_->platform.messages.back().text, std::string("Salvataggio effettuato con successo"));
         QVERIFY(t_->widget(form().cboSqNC).hasFocus());
+    }
+
+    /// While a box is shown, no widget of the window has the keyboard; where it goes afterwards is settled then.
+    void the_saved_picks_leave_the_keyboard_on_their_tab_behind_a_box_too() {
+        import_no_contact();
+        t_->widget(form().cmdSaveNC).setFocus();
+        QDialog box(&t_->window);
+        box.show();
+        box.activateWindow();
+        QApplication::processEvents();
+        t_->binder().act([&] { user::click(form(), form().cmdSaveNC); }, app::Binder::Focus::stay);
+        QCOMPARE(t_->window.focusWidget(), &t_->widget(form().cboSqNC));
+    }
+
+    void a_file_for_the_picks_is_no_change_of_the_shown_names() {
+        pick(form().cboSeqSQ, 10);
+        const std::string file = home_->path() + "/Export/" + form().txtSQ.text() + ".DAT";
+        t_->click(form().cmdExp);
+        pick(form().cboSeqSQ, 12);
+        const std::string shown = form().txtSqDec.text();
+        pick_23();
+        t_->platform.choices.push_back(file);
+        t_->click(form().cmdImpNC);
+        QVERIFY(form().txtSqDec.text() != shown);
+        t_->click(form().cmdSaveNC);
+        const QString told = t_->window.findChild<QLabel*>(QStringLiteral("viewStatus"))->text();
+        QVERIFY2(told.startsWith(QStringLiteral("Salvato: ")) && !told.contains(QStringLiteral("non salvati")),
+                 qPrintable(told));
     }
 
     void the_table_says_whose_takers_it_shows() {
