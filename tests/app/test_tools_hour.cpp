@@ -6,11 +6,16 @@
 #include "app/saves_stack.h"
 #include "app/support/dialogs.h"
 #include "app/support/test_window.h"
+#include "app/tools/changes/changes_model.h"
+#include "app/tools/changes/changes_view.h"
+#include "app/tools/compare/compare_dialog.h"
 #include "app/tools/sectors/sectors_dialog.h"
+#include "app/tools/sheets/import_dialog.h"
 #include "disc/image/opening.h"
 #include "editor/window/user.h"
 #include "support/faulty_files.h"
 #include "work/sheets/sheets.h"
+#include "work/sheets/values.h"
 #include "work/write_changes.h"
 
 using namespace kalco;
@@ -111,7 +116,7 @@ private Q_SLOTS:
         std::string bytes = home_->image_bytes();
         const std::int64_t place = t.form().image.is_open() ? first_changed(t) : 0;
         bytes[static_cast<std::size_t>(place)] = static_cast<char>(bytes[static_cast<std::size_t>(place)] ^ 1);
-        put(bytes);
+        put(QString::fromStdString(home_->image()), bytes);
         test::Answers answers;
         answers.press(QStringLiteral("OK"));
         take_back(t);
@@ -200,6 +205,10 @@ private Q_SLOTS:
         t.click(form.cmdModNum);
         t.click(form.cmdSaveNum);
         note();
+        import_sheet(t);
+        note();
+        take_over(t);
+        note();
         repair(t);
         note();
         QCOMPARE(form.history.texts().size(), states.size() - 1);
@@ -238,6 +247,40 @@ private:
     static void take_back(test::TestWindow& t) { press(t, Qt::Key_Z); }
     static void make_again(test::TestWindow& t) { press(t, Qt::Key_Y); }
 
+    /// Another speed for one player, from a sheet.
+    void import_sheet(test::TestWindow& t) const {
+        const QString sheet = QString::fromStdString(home_->path()) + QStringLiteral("/rosa.csv");
+        const bool fast = cell_at(read_sheets(t.form().image), speed(), imported) == "18";
+        put(sheet, fast ? "id,speed\r\nt20p05,13\r\n" : "id,speed\r\nt20p05,18\r\n");
+        test::Answers answers;
+        answers.choose(sheet);
+        test::choose_menu(t.window, QStringLiteral("Strumenti"), QStringLiteral("Importa foglio"));
+        QVERIFY(answers.all_given());
+        auto* const dialog = t.window.findChild<app::ImportDialog*>();
+        QVERIFY(dialog != nullptr);
+        QTest::mouseClick(dialog->findChild<QPushButton*>(QStringLiteral("buttonApply")), Qt::LeftButton);
+        if (dialog->isVisible()) QTest::keyClick(dialog, Qt::Key_Escape);
+        QCOMPARE(cell_at(read_sheets(t.form().image), speed(), imported), fast ? "13" : "18");
+    }
+
+    /// One value of the image as it was at the start.
+    void take_over(test::TestWindow& t) const {
+        const test::DemoHome other;
+        test::Answers answers;
+        answers.choose(QString::fromStdString(other.image()));
+        test::choose_menu(t.window, QStringLiteral("Strumenti"), QStringLiteral("Confronta"));
+        QVERIFY(answers.all_given());
+        auto* const dialog = t.window.findChild<app::CompareDialog*>();
+        QVERIFY(dialog != nullptr);
+        app::ChangesModel& rows = dialog->findChild<app::ChangesView*>()->model();
+        rows.toggle(rows.index(0, 0, rows.index(0, 0)));
+        QTest::mouseClick(dialog->findChild<QPushButton*>(QStringLiteral("buttonTake")), Qt::LeftButton);
+        QTest::keyClick(dialog, Qt::Key_Escape);
+    }
+
+    static constexpr int imported = 20 * 23 + 4;
+    static const SheetColumn& speed() { return *sheet_named(players_sheet)->column_named("speed"); }
+
     static void repair(test::TestWindow& t) {
         test::choose_menu(t.window, QStringLiteral("Strumenti"), QStringLiteral("Settori"));
         auto* const dialog = t.window.findChild<app::SectorsDialog*>();
@@ -264,8 +307,8 @@ private:
         t.binder().act([&] { user::redo(t.form()); });
         return std::mismatch(now.begin(), now.end(), before.begin()).first - now.begin();
     }
-    void put(const std::string& bytes) const {
-        QFile file(QString::fromStdString(home_->image()));
+    static void put(const QString& path, const std::string& bytes) {
+        QFile file(path);
         QVERIFY(file.open(QIODevice::ReadWrite));
         QCOMPARE(file.write(bytes.data(), static_cast<qint64>(bytes.size())), static_cast<qint64>(bytes.size()));
     }
