@@ -36,7 +36,7 @@ struct Caption {
     qsizetype key = -1;
 };
 
-Caption caption_of(const QString& text, int flags) {
+Caption bare_caption(const QString& text, int flags) {
     Caption caption{text};
     if ((flags & (Qt::TextShowMnemonic | Qt::TextHideMnemonic)) == 0) return caption;
     for (qsizetype at = 0; at < caption.text.size(); ++at) {
@@ -89,7 +89,7 @@ void underline_key(QPainter& painter, const QPointF& corner, const Caption& capt
 void draw_text(QPainter& painter, const QRect& area, int flags, const QString& text) {
     const bool upright = painter.transform().type() <= QTransform::TxScale;
     if (!upright || !is_plain_line(text, flags)) return painter.drawText(area, flags, text);
-    const Caption caption = caption_of(text, flags);
+    const Caption caption = bare_caption(text, flags);
     const QStaticText line = kept_line(painter, caption.text);
     const QSizeF size = line.size();
     // What has no room is cut at the area's edge.

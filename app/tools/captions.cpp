@@ -11,51 +11,51 @@
 namespace kalco::app {
 namespace {
 
-struct Caption {
+struct NamedCaption {
     std::string_view name;
     const char16_t* italian;
 };
 
 constexpr std::array sheet_captions{
-    Caption{"players", u"Giocatori"},        Caption{"teams", u"Nomi delle squadre"},
-    Caption{"formations", u"Formazioni"},    Caption{"bars", u"Barre"},
-    Caption{"numbers", u"Numeri di maglia"}, Caption{"set_pieces", u"Kickers e capitani"},
-    Caption{"links", u"Link Master League"},
+    NamedCaption{"players", u"Giocatori"},        NamedCaption{"teams", u"Nomi delle squadre"},
+    NamedCaption{"formations", u"Formazioni"},    NamedCaption{"bars", u"Barre"},
+    NamedCaption{"numbers", u"Numeri di maglia"}, NamedCaption{"set_pieces", u"Kickers e capitani"},
+    NamedCaption{"links", u"Link Master League"},
 };
 
 /// By the field's name; a run's columns add their number. What the player's record holds has its captions in the table
 /// of its bits.
 constexpr std::array field_captions{
-    Caption{"players.team", u"Squadra"},
-    Caption{"players.rev", u"Revisione"},
-    Caption{"players.name", u"Nome"},
-    Caption{"players.cost", u"Costo ML"},
-    Caption{"teams.short", u"Sigla"},
-    Caption{"teams.full", u"Nome per esteso"},
-    Caption{"teams.t", u"Nome nella tabella"},
-    Caption{"formations.role", u"Ruolo"},
-    Caption{"formations.x", u"X"},
-    Caption{"formations.y", u"Y"},
-    Caption{"bars.offense", u"Attacco"},
-    Caption{"bars.defense", u"Difesa"},
-    Caption{"bars.power", u"Potenza"},
-    Caption{"bars.speed", u"Velocità"},
-    Caption{"bars.technique", u"Tecnica"},
-    Caption{"numbers.n", u"Giocatore"},
-    Caption{"set_pieces.short_free_kick", u"Punizioni corte"},
-    Caption{"set_pieces.long_free_kick", u"Punizioni lunghe"},
-    Caption{"set_pieces.corner_right", u"Corner da destra"},
-    Caption{"set_pieces.corner_left", u"Corner da sinistra"},
-    Caption{"set_pieces.penalty", u"Rigori"},
-    Caption{"set_pieces.captain", u"Capitano"},
-    Caption{"links.s", u"Giocatore"},
+    NamedCaption{"players.team", u"Squadra"},
+    NamedCaption{"players.rev", u"Revisione"},
+    NamedCaption{"players.name", u"Nome"},
+    NamedCaption{"players.cost", u"Costo ML"},
+    NamedCaption{"teams.short", u"Sigla"},
+    NamedCaption{"teams.full", u"Nome per esteso"},
+    NamedCaption{"teams.t", u"Nome nella tabella"},
+    NamedCaption{"formations.role", u"Ruolo"},
+    NamedCaption{"formations.x", u"X"},
+    NamedCaption{"formations.y", u"Y"},
+    NamedCaption{"bars.offense", u"Attacco"},
+    NamedCaption{"bars.defense", u"Difesa"},
+    NamedCaption{"bars.power", u"Potenza"},
+    NamedCaption{"bars.speed", u"Velocità"},
+    NamedCaption{"bars.technique", u"Tecnica"},
+    NamedCaption{"numbers.n", u"Giocatore"},
+    NamedCaption{"set_pieces.short_free_kick", u"Punizioni corte"},
+    NamedCaption{"set_pieces.long_free_kick", u"Punizioni lunghe"},
+    NamedCaption{"set_pieces.corner_right", u"Corner da destra"},
+    NamedCaption{"set_pieces.corner_left", u"Corner da sinistra"},
+    NamedCaption{"set_pieces.penalty", u"Rigori"},
+    NamedCaption{"set_pieces.captain", u"Capitano"},
+    NamedCaption{"links.s", u"Giocatore"},
 };
 
 /// Empty for an unknown name.
 template <typename Captions>
 QString found(const Captions& captions, std::string_view name) {
     const auto* const caption =
-        std::find_if(captions.begin(), captions.end(), [&](const Caption& each) { return each.name == name; });
+        std::find_if(captions.begin(), captions.end(), [&](const NamedCaption& each) { return each.name == name; });
     return caption == captions.end() ? QString() : QString::fromUtf16(caption->italian);
 }
 

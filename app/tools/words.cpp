@@ -41,7 +41,7 @@ constexpr std::array reasons{
     Reason{EWOULDBLOCK, "un altro programma lo sta usando"},
 };
 
-constexpr std::string_view gap = "{}";
+constexpr std::string_view hole = "{}";
 
 QString utf8(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
@@ -50,12 +50,12 @@ QString utf8(std::string_view text) {
 /// Takes a sentence apart at the gaps of a pattern, in every way that there is, until `accept` takes the parts.
 bool take_apart(std::string_view sentence, std::string_view pattern, std::vector<std::string_view>& parts,
                 const std::function<bool()>& accept) {
-    const auto end = pattern.find(gap);
+    const auto end = pattern.find(hole);
     if (end == std::string_view::npos) return sentence == pattern && accept();
     if (!sentence.starts_with(pattern.substr(0, end))) return false;
     sentence.remove_prefix(end);
-    pattern.remove_prefix(end + gap.size());
-    // A gap at the end takes all that is left.
+    pattern.remove_prefix(end + hole.size());
+    // A hole at the end takes all that is left.
     for (std::size_t length = pattern.empty() ? sentence.size() : 0; length <= sentence.size(); ++length) {
         parts.push_back(sentence.substr(0, length));
         if (take_apart(sentence.substr(length), pattern, parts, accept)) return true;
@@ -66,7 +66,7 @@ bool take_apart(std::string_view sentence, std::string_view pattern, std::vector
 
 std::optional<QString> translated(std::string_view sentence);
 
-/// None where a part is not what the gap is for.
+/// None where a part is not what the hole is for.
 std::optional<QString> put_together(std::string_view italian, std::span<const std::string_view> parts) {
     QString text;
     for (const std::string_view part : parts) {

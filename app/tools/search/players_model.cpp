@@ -18,7 +18,7 @@ QString utf8_text(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-QString short_role(const std::string& role) {
+QString short_role_of(const std::string& role) {
     const auto* const found = std::ranges::find(role_texts, role);
     if (found == role_texts.end()) return QString::fromStdString(role);
     return qt_text(short_roles.at(static_cast<std::size_t>(found - role_texts.begin())));
@@ -175,7 +175,7 @@ QString text_of(const Report& report, const ReportPlayer& player, int column) {
     switch (column) {
         case name: return QString::fromStdString(player.name);
         case team: return title_of(report, player.team);
-        case role: return short_role(player.role);
+        case role: return short_role_of(player.role);
         case age: return QString::fromStdString(player.age);
         case height: return QString::fromStdString(player.height);
         case foot: return QString::fromStdString(player.foot);

@@ -37,7 +37,7 @@ bool is_old_revision(const TableMistake& mistake) {
     return mistake.column == "rev";
 }
 
-QString name_of(const QString& path) {
+QString name_in_list(const QString& path) {
     return QFileInfo(path).fileName();
 }
 
@@ -49,7 +49,7 @@ ImportDialog::ImportDialog(Desk& desk, ReadTables read, QWidget* parent)
       desk_(desk),
       read_(std::move(read)) {
     ui_->setupUi(this);
-    setWindowTitle(QStringLiteral("Importa %1").arg(name_of(read_.path)));
+    setWindowTitle(QStringLiteral("Importa %1").arg(name_in_list(read_.path)));
     ui_->viewChanges->offer_boxes(true);
     ui_->tableMistakes->setModel(&mistakes_);
     ui_->tableMistakes->verticalHeader()->hide();
@@ -130,7 +130,7 @@ void ImportDialog::show_mistakes(std::vector<TableMistake> mistakes) {
 void ImportDialog::apply() {
     const std::vector<FieldChange> chosen = ui_->viewChanges->model().chosen();
     applying_ = true;
-    const Desk::Saved saved = desk_.save(this, QStringLiteral("Importazione: %1").arg(name_of(read_.path)),
+    const Desk::Saved saved = desk_.save(this, QStringLiteral("Importazione: %1").arg(name_in_list(read_.path)),
                                          [&chosen](Image& image, Job&) { write_changes(image, chosen); });
     applying_ = false;
     if (!saved.failure.isEmpty()) {
@@ -139,7 +139,7 @@ void ImportDialog::apply() {
     }
     if (!saved.changed) return plan();
     desk_.tell(QStringLiteral("Importato %1: %2 nell'immagine")
-                   .arg(name_of(read_.path), count_of_fields(static_cast<int>(chosen.size()))));
+                   .arg(name_in_list(read_.path), count_of_fields(static_cast<int>(chosen.size()))));
     accept();
 }
 
@@ -151,14 +151,15 @@ void import_sheets(Desk& desk, QWidget& window) {
                              QFileInfo(desk.path()).path());
     if (read.path.isEmpty()) return;
     try {
-        const bool done = run_job(&window, QStringLiteral("Lettura di %1").arg(name_of(read.path)), [&read](Job& job) {
-            try {
-                read.tables = ctl::read_tables(read.path.toStdString());
-            } catch (const TableError& error) {
-                read.mistake = error.mistake();
-            }
-            job(0);
-        });
+        const bool done =
+            run_job(&window, QStringLiteral("Lettura di %1").arg(name_in_list(read.path)), [&read](Job& job) {
+                try {
+                    read.tables = ctl::read_tables(read.path.toStdString());
+                } catch (const TableError& error) {
+                    read.mistake = error.mistake();
+                }
+                job(0);
+            });
         if (!done) return;
     } catch (const std::exception& failure) {
         return tell_failure(&window, QStringLiteral("Il file non si legge: %1.").arg(words_of(failure)));

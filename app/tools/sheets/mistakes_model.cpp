@@ -8,7 +8,7 @@
 namespace kalco::app {
 namespace {
 
-enum Column { row, column, what, columns };
+enum MistakeColumn { of_row, of_column, of_text, mistake_columns };
 
 }  // namespace
 
@@ -24,17 +24,17 @@ int MistakesModel::rowCount(const QModelIndex& parent) const {
 }
 
 int MistakesModel::columnCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : columns;
+    return parent.isValid() ? 0 : mistake_columns;
 }
 
 QVariant MistakesModel::data(const QModelIndex& index, int role) const {
-    if (role == Qt::TextAlignmentRole && index.column() == row) return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+    if (role == Qt::TextAlignmentRole && index.column() == of_row) return QVariant(Qt::AlignRight | Qt::AlignVCenter);
     const TableMistake& mistake = mistakes_.at(static_cast<std::size_t>(index.row()));
-    if (role == Qt::ToolTipRole && index.column() == what) return italian(mistake.what);
+    if (role == Qt::ToolTipRole && index.column() == of_text) return italian(mistake.what);
     if (role != Qt::DisplayRole) return {};
     switch (index.column()) {
-        case row: return mistake.row > 0 ? QString::number(mistake.row) : QString();
-        case column: return caption_of_column(sheet_, mistake.column);
+        case of_row: return mistake.row > 0 ? QString::number(mistake.row) : QString();
+        case of_column: return caption_of_column(sheet_, mistake.column);
         default: return italian(mistake.what);
     }
 }
@@ -42,8 +42,8 @@ QVariant MistakesModel::data(const QModelIndex& index, int role) const {
 QVariant MistakesModel::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
     switch (section) {
-        case row: return QStringLiteral("Riga");
-        case column: return QStringLiteral("Colonna");
+        case of_row: return QStringLiteral("Riga");
+        case of_column: return QStringLiteral("Colonna");
         default: return QStringLiteral("Che cosa non va");
     }
 }
