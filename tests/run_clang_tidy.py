@@ -87,16 +87,37 @@ def flags_of(entry):
     return flags
 
 
-def batches_of(files, commands, jobs):
-    """Files that are compiled alike, together; in parts when there are more jobs than kinds of files. Single files, which
-    fill the end, come last."""
-    alike = {}
+def options_of(flags):
+    """The flags as a set in which a word that belongs to the one before stays with it."""
+    options, words = set(), list(flags)
+    while words:
+        word = words.pop(0)
+        options.add((word, words.pop(0)) if word in ("-I", "-D", "-U", "-include", "-isystem") and words else (word,))
+    return options
+
+
+def kinds_of(files, commands, most):
+    """Files that are compiled alike, together. More kinds than `most` are too many: a kind whose options are all among
+    another's joins it, since more folders and names to look in change nothing for it. The nearest join first."""
+    kinds = {}
     for path in files:
-        alike.setdefault(tuple(flags_of(commands[path])), []).append(path)
-    for group in sorted(alike.values(), key=lambda group: len(group) == 1):
-        size = -(-len(group) // max(1, jobs // 2))
-        for start in range(0, len(group), size):
-            yield group[start:start + size]
+        kinds.setdefault(frozenset(options_of(flags_of(commands[path]))), []).append(path)
+    while len(kinds) > most:
+        joins = [(len(wide - narrow), len(kinds[narrow]), kinds[narrow][0], narrow, wide)
+                 for narrow in kinds for wide in kinds if narrow < wide]
+        if not joins:
+            break
+        *_, narrow, wide = min(joins, key=lambda join: join[:3])
+        kinds[wide] += kinds.pop(narrow)
+    return list(kinds.values())
+
+
+def batches_of(files, commands, jobs):
+    """Kinds of files; in parts when there are more jobs than kinds. Single files, which fill the end, come last."""
+    for kind in sorted(kinds_of(files, commands, jobs), key=lambda kind: len(kind) == 1):
+        size = -(-len(kind) // max(1, jobs // 2))
+        for start in range(0, len(kind), size):
+            yield kind[start:start + size]
 
 
 def left_alone(batch, is_clean):
@@ -142,7 +163,8 @@ def main():
         with open(source, "w", encoding="utf-8") as file:
             file.writelines(f'#include "{path}"\n' for path in batch)
         try:
-            return tidy(*BATCH_OPTIONS, source, "--", *flags_of(commands[batch[0]])).returncode == 0
+            flags = max((flags_of(commands[path]) for path in batch), key=len)
+            return tidy(*BATCH_OPTIONS, source, "--", *flags).returncode == 0
         finally:
             os.remove(source)
 

@@ -23,6 +23,15 @@ class Batches(unittest.TestCase):
     def test_put_single_files_last(self):
         self.assertEqual(self.batches({"-DA": ["a"], "-DB": ["b", "c"], "-DC": ["d"]}, 1), [["b", "c"], ["a"], ["d"]])
 
+    def test_take_in_kinds_with_fewer_options_when_there_are_too_many(self):
+        kinds = {"-Ix": ["a"], "-Ix -DB": ["b", "c"], "-Ix -DB -isystem y": ["d"]}
+        self.assertEqual(self.batches(kinds, 3), [["b", "c"], ["a"], ["d"]])
+        self.assertEqual(self.batches(kinds, 2), [["b", "c", "a"], ["d"]])
+
+    def test_keep_apart_what_differs(self):
+        kinds = {"-DA -I x": ["a"], "-DB -I x": ["b"], "-isystem x -DA -I y": ["c"]}
+        self.assertEqual(self.batches(kinds, 1), [["a"], ["b"], ["c"]])
+
     def test_are_smaller_for_many_jobs(self):
         names = list("abcdefg")
         self.assertEqual(self.batches({"-DA": names}, 6), [["a", "b", "c"], ["d", "e", "f"], ["g"]])
