@@ -13,7 +13,7 @@ set_target_properties(kalco_app PROPERTIES
     AUTOMOC ON AUTOUIC ON AUTOUIC_SEARCH_PATHS "${PROJECT_SOURCE_DIR}/app/forms;${PROJECT_SOURCE_DIR}/app")
 target_include_directories(kalco_app PUBLIC ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/app)
 # The window model has a member named as one of Qt's macros.
-target_compile_definitions(kalco_app PUBLIC QT_NO_KEYWORDS KALCO_VERSION="${PROJECT_VERSION}")
+target_compile_definitions(kalco_app PUBLIC QT_NO_KEYWORDS)
 target_link_libraries(kalco_app PUBLIC kalco_editor kalco_ctl Qt6::Core Qt6::Gui Qt6::Widgets Qt6::Svg Qt6::SvgWidgets
                                 PRIVATE kalco_warnings)
 compile_together(kalco_app)

@@ -11,13 +11,6 @@ set(screens ${PROJECT_SOURCE_DIR}/tests/app/screens)
 set(test_env LC_ALL=C.UTF-8 QT_QPA_PLATFORM=offscreen:configfile=${screens}/1920x1080.json
     UBSAN_OPTIONS=print_stacktrace=1 LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0)
 
-# Most of the core tests' time goes by in the program's loops over bytes; the commands take longest to compile.
-if(KALCO_SANITIZE)
-    foreach(storey kalco_disc kalco_work kalco_editor)
-        target_compile_options(${storey} PRIVATE -O1)
-    endforeach()
-endif()
-
 # core_tests: one program for each folder of tests/core, core_<folder>_tests, so that a change builds what it touches.
 # The slow one runs in shards, side by side.
 file(GLOB support_sources CONFIGURE_DEPENDS tests/support/*.cpp)
@@ -31,6 +24,7 @@ else()
     target_include_directories(core_support PUBLIC tests ${PROJECT_SOURCE_DIR})
     target_link_libraries(core_support PUBLIC kalco_ctl kalco_script kalco_editor kalco_work GTest::gtest
                                        PRIVATE kalco_warnings)
+    compile_together(core_support)
     if(KALCO_PCH)
         target_precompile_headers(core_support PRIVATE
             <gtest/gtest.h> <nlohmann/json.hpp> <array> <filesystem> <fstream> <functional> <random> <span> <string>
@@ -43,6 +37,7 @@ else()
         file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${path}/*_test.cpp)
         set(program core_${folder}_tests)
         add_executable(${program} ${sources})
+        compile_together(${program})
         set_target_properties(${program} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${test_bin})
         target_link_libraries(${program} PRIVATE core_support GTest::gtest_main kalco_warnings)
         if(KALCO_PCH)
@@ -77,7 +72,7 @@ set_tests_properties(kalcoctl_links PROPERTIES LABELS stories)
 # The real program under the faults of a system.
 add_test(NAME programs COMMAND Python3::Interpreter -B ${PROJECT_SOURCE_DIR}/tests/run_programs.py
     --kalcoctl $<TARGET_FILE:kalcoctl> --junit ${results}/programs.xml)
-set_tests_properties(programs PROPERTIES LABELS stories TIMEOUT 300 ENVIRONMENT "${test_env}")
+set_tests_properties(programs PROPERTIES LABELS stories TIMEOUT 900 ENVIRONMENT "${test_env}")
 
 # The linker would take a reference upwards as long as the program links the editor too.
 add_test(NAME storeys COMMAND Python3::Interpreter -B ${PROJECT_SOURCE_DIR}/tests/check_storeys.py
@@ -110,7 +105,7 @@ endif()
 
 function(add_window_program name)
     add_executable(${name} ${ARGN})
-    set_target_properties(${name} PROPERTIES AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY ${test_bin})
+    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${test_bin})
     target_link_libraries(${name} PRIVATE kalco_window_support kalco_warnings)
     if(KALCO_PCH)
         target_precompile_headers(${name} REUSE_FROM kalco_app)
@@ -123,33 +118,31 @@ foreach(tool window_script window_picture sheets_picture)
 endforeach()
 add_stories(stories_window window_script window)
 
+# All in one program: reading Qt's headers and making their templates takes longer than the tests themselves.
 file(GLOB window_tests CONFIGURE_DEPENDS tests/app/test_*.cpp)
-add_custom_target(window_tests)
+# The images in memory of the tools' tests are those of the core tests.
+add_window_program(window_tests tests/app/window_tests.cpp ${window_tests} tests/support/sheet_disc.cpp)
+set_target_properties(window_tests PROPERTIES AUTOMOC ON)
+compile_together(window_tests)
+target_compile_definitions(window_tests PRIVATE
+    KALCO_PROGRAM="$<TARGET_FILE:kalco>" KALCO_SOURCE="${PROJECT_SOURCE_DIR}")
+add_dependencies(window_tests kalco)
+
+# add_window_test NAME FILE [OPTION...]: the tests of a file, or those that the options name.
+function(add_window_test name file)
+    add_test(NAME ${name} COMMAND window_tests ${file} ${ARGN} -o ${results}/${name}.xml,junitxml -o -,txt)
+    set_tests_properties(${name} PROPERTIES LABELS window TIMEOUT 600 ENVIRONMENT "${test_env}")
+endfunction()
+
 foreach(source ${window_tests})
     get_filename_component(name ${source} NAME_WE)
-    add_window_program(${name} ${source})
-    add_test(NAME ${name} COMMAND ${name} -o ${results}/${name}.xml,junitxml -o -,txt)
-    set_tests_properties(${name} PROPERTIES LABELS window TIMEOUT 600 ENVIRONMENT "${test_env}")
-    add_dependencies(window_tests ${name})
+    add_window_test(${name} ${name})
 endforeach()
-target_compile_definitions(test_help PRIVATE
-    KALCO_PROGRAM="$<TARGET_FILE:kalco>" KALCO_SOURCE="${PROJECT_SOURCE_DIR}")
-add_dependencies(test_help kalco)
-
-target_compile_definitions(test_tools_words PRIVATE KALCO_SOURCE="${PROJECT_SOURCE_DIR}")
-# Its images in memory are those of the core tests.
-foreach(name test_tools_words test_tools_sheets test_tools_compare test_tools_patch)
-    target_sources(${name} PRIVATE tests/support/sheet_disc.cpp)
-endforeach()
-
 # test_screens on the small screens that Kalco is to fit, test_layout with everything twice as large.
 foreach(screen 1024x768 1366x768-144dpi 1920x1080-scale2)
-    add_test(NAME test_screens_${screen} COMMAND test_screens
-        -o ${results}/test_screens_${screen}.xml,junitxml -o -,txt)
-    set_tests_properties(test_screens_${screen} PROPERTIES LABELS window TIMEOUT 600
+    add_window_test(test_screens_${screen} test_screens)
+    set_tests_properties(test_screens_${screen} PROPERTIES
         ENVIRONMENT "${test_env};QT_QPA_PLATFORM=offscreen:configfile=${screens}/${screen}.json")
 endforeach()
-add_test(NAME test_layout_200_percent COMMAND test_layout no_text_is_cut lists_grow_and_fields_do_not
-    -o ${results}/test_layout_200_percent.xml,junitxml -o -,txt)
-set_tests_properties(test_layout_200_percent PROPERTIES LABELS window TIMEOUT 600
-    ENVIRONMENT "${test_env};QT_SCALE_FACTOR=2")
+add_window_test(test_layout_200_percent test_layout no_text_is_cut lists_grow_and_fields_do_not)
+set_tests_properties(test_layout_200_percent PROPERTIES ENVIRONMENT "${test_env};QT_SCALE_FACTOR=2")

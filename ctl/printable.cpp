@@ -27,8 +27,8 @@ std::string escape(std::string_view bytes) {
 
 std::string printable(std::string_view text, std::size_t most) {
     std::string result;
-    for (std::size_t done = 0; !text.empty(); ++done) {
-        if (done == most) return result + "...";
+    for (std::size_t count = 0; !text.empty(); ++count) {
+        if (count == most) return result + "...";
         const Utf8Step step = first_character(text);
         const std::string_view character = text.substr(0, std::max<std::size_t>(step.bytes, 1));
         const bool shown = step.bytes != 0 && !is_control(step.character);

@@ -5,6 +5,7 @@
 #include <QSet>
 #include <QtTest>
 
+#include "app/support/test_list.h"
 #include "app/support/test_window.h"
 #include "app/widgets/number_board.h"
 #include "app/widgets/picture_box.h"
@@ -100,5 +101,5 @@ private:
     test::DemoHome home_;
 };
 
-QTEST_MAIN(TestBinder)
+KALCO_WINDOW_TEST(TestBinder)
 #include "test_binder.moc"

@@ -16,6 +16,7 @@
 
 #include "app/program.h"
 #include "app/qt_platform.h"
+#include "app/support/test_list.h"
 #include "app/support/test_window.h"
 #include "editor/window/user.h"
 
@@ -219,5 +220,5 @@ private:
     app::QtPlatform platform_;
 };
 
-QTEST_MAIN(TestDialogs)
+KALCO_WINDOW_TEST(TestDialogs)
 #include "test_dialogs.moc"

@@ -6,6 +6,7 @@
 
 #include "app/status_line.h"
 #include "app/style.h"
+#include "app/support/test_list.h"
 #include "app/support/test_window.h"
 #include "editor/window/user.h"
 
@@ -338,5 +339,5 @@ private:
     std::unique_ptr<test::TestWindow> t_;
 };
 
-QTEST_MAIN(TestDrafts)
+KALCO_WINDOW_TEST(TestDrafts)
 #include "test_drafts.moc"

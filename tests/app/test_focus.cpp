@@ -4,6 +4,7 @@
 #include <QTabWidget>
 #include <QtTest>
 
+#include "app/support/test_list.h"
 #include "app/support/test_window.h"
 #include "app/widgets/pick_combo.h"
 #include "editor/window/user.h"
@@ -139,5 +140,5 @@ private:
     std::unique_ptr<test::TestWindow> t_;
 };
 
-QTEST_MAIN(TestFocus)
+KALCO_WINDOW_TEST(TestFocus)
 #include "test_focus.moc"

@@ -14,6 +14,7 @@
 
 #include "app/arguments.h"
 #include "app/help/manual.h"
+#include "app/support/test_list.h"
 #include "app/support/test_window.h"
 
 using namespace kalco;
@@ -180,5 +181,5 @@ private:
     test::DemoHome home_;
 };
 
-QTEST_MAIN(TestHelp)
+KALCO_WINDOW_TEST(TestHelp)
 #include "test_help.moc"

@@ -12,6 +12,7 @@
 #include <QtTest>
 
 #include "app/status_line.h"
+#include "app/support/test_list.h"
 #include "app/support/test_window.h"
 #include "app/text.h"
 #include "app/widgets/notice.h"
@@ -304,5 +305,5 @@ private:
     test::DemoHome home_;
 };
 
-QTEST_MAIN(TestKalcoWindow)
+KALCO_WINDOW_TEST(TestKalcoWindow)
 #include "test_kalco_window.moc"

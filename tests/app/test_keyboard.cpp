@@ -3,6 +3,7 @@
 #include <QTabWidget>
 #include <QtTest>
 
+#include "app/support/test_list.h"
 #include "app/support/test_window.h"
 #include "app/widgets/pitch_view.h"
 #include "editor/window/user.h"
@@ -178,5 +179,5 @@ private:
     std::unique_ptr<test::TestWindow> t_;
 };
 
-QTEST_MAIN(TestKeyboard)
+KALCO_WINDOW_TEST(TestKeyboard)
 #include "test_keyboard.moc"

@@ -6,6 +6,7 @@
 #include <QTabBar>
 #include <QtTest>
 
+#include "app/support/test_list.h"
 #include "app/support/test_window.h"
 #include "editor/window/user.h"
 
@@ -124,5 +125,5 @@ private:
     test::DemoHome home_;
 };
 
-QTEST_MAIN(TestLayout)
+KALCO_WINDOW_TEST(TestLayout)
 #include "test_layout.moc"

@@ -2,6 +2,7 @@
 #include <QScrollBar>
 #include <QtTest>
 
+#include "app/support/test_list.h"
 #include "app/support/test_window.h"
 #include "app/widgets/rows_view.h"
 #include "editor/window/user.h"
@@ -128,5 +129,5 @@ private:
     std::unique_ptr<test::TestWindow> t_;
 };
 
-QTEST_MAIN(TestLists)
+KALCO_WINDOW_TEST(TestLists)
 #include "test_lists.moc"

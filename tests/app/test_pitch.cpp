@@ -2,6 +2,7 @@
 #include <QLabel>
 #include <QtTest>
 
+#include "app/support/test_list.h"
 #include "app/support/test_window.h"
 #include "app/widgets/number_board.h"
 #include "app/widgets/pitch_view.h"
@@ -142,5 +143,5 @@ private:
     std::unique_ptr<test::TestWindow> t_;
 };
 
-QTEST_MAIN(TestPitch)
+KALCO_WINDOW_TEST(TestPitch)
 #include "test_pitch.moc"

@@ -4,6 +4,7 @@
 #include <QtTest>
 
 #include "app/pictures.h"
+#include "app/support/test_list.h"
 #include "app/support/test_window.h"
 #include "app/widgets/pick_combo.h"
 #include "editor/window/user.h"
@@ -113,5 +114,5 @@ private:
     std::unique_ptr<test::TestWindow> t_;
 };
 
-QTEST_MAIN(TestPopups)
+KALCO_WINDOW_TEST(TestPopups)
 #include "test_popups.moc"

@@ -1,6 +1,7 @@
 #include <QImage>
 #include <QtTest>
 
+#include "app/support/test_list.h"
 #include "app/support/test_window.h"
 #include "app/widgets/portrait_view.h"
 #include "work/portrait_palette.h"
@@ -58,5 +59,5 @@ private:
     std::unique_ptr<app::PortraitView> view_;
 };
 
-QTEST_MAIN(TestPortrait)
+KALCO_WINDOW_TEST(TestPortrait)
 #include "test_portrait.moc"

@@ -11,6 +11,7 @@
 
 #include "app/application.h"
 #include "app/program.h"
+#include "app/support/test_list.h"
 #include "app/support/test_window.h"
 #include "app/widgets/notice.h"
 #include "disc/runtime_error.h"
@@ -336,10 +337,6 @@ private:
     }
 };
 
-int main(int argc, char** argv) {
-    const app::Application application(argc, argv);
-    TestProgram tests;
-    return QTest::qExec(&tests, argc, argv);
-}
+KALCO_WINDOW_TEST(TestProgram, app::Application)
 
 #include "test_program.moc"

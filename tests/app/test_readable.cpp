@@ -6,6 +6,7 @@
 
 #include "app/readable.h"
 #include "app/style.h"
+#include "app/support/test_list.h"
 #include "app/support/test_window.h"
 #include "editor/window/user.h"
 
@@ -118,5 +119,5 @@ private:
     test::DemoHome home_;
 };
 
-QTEST_MAIN(TestReadable)
+KALCO_WINDOW_TEST(TestReadable)
 #include "test_readable.moc"

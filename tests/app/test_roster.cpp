@@ -3,6 +3,7 @@
 #include <QLineEdit>
 #include <QtTest>
 
+#include "app/support/test_list.h"
 #include "app/support/test_window.h"
 #include "app/text.h"
 #include "app/widgets/pitch_names.h"
@@ -142,5 +143,5 @@ private:
     std::unique_ptr<test::TestWindow> t_;
 };
 
-QTEST_MAIN(TestRoster)
+KALCO_WINDOW_TEST(TestRoster)
 #include "test_roster.moc"

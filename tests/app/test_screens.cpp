@@ -6,6 +6,7 @@
 #include <QTabWidget>
 #include <QtTest>
 
+#include "app/support/test_list.h"
 #include "app/support/test_window.h"
 #include "editor/window/user.h"
 
@@ -83,5 +84,5 @@ private:
     test::DemoHome home_;
 };
 
-QTEST_MAIN(TestScreens)
+KALCO_WINDOW_TEST(TestScreens)
 #include "test_screens.moc"

@@ -9,6 +9,7 @@
 #include <cstdlib>
 
 #include "app/quick_text.h"
+#include "app/support/test_list.h"
 #include "app/support/test_window.h"
 #include "app/widgets/rows_view.h"
 #include "editor/window/user.h"
@@ -197,5 +198,5 @@ private:
     test::DemoHome home_;
 };
 
-QTEST_MAIN(TestSpeed)
+KALCO_WINDOW_TEST(TestSpeed)
 #include "test_speed.moc"

@@ -3,6 +3,7 @@
 #include <QTabBar>
 #include <QtTest>
 
+#include "app/support/test_list.h"
 #include "app/support/test_window.h"
 #include "editor/window/user.h"
 
@@ -95,5 +96,5 @@ private:
     test::DemoHome home_;
 };
 
-QTEST_MAIN(TestTabOrder)
+KALCO_WINDOW_TEST(TestTabOrder)
 #include "test_tab_order.moc"

@@ -5,6 +5,7 @@
 #include <QTreeView>
 #include <QtTest>
 
+#include "app/support/test_list.h"
 #include "app/support/tool_desk.h"
 #include "app/tools/changes/changes_view.h"
 #include "app/tools/compare/compare_dialog.h"
@@ -22,7 +23,7 @@ using test::bytes_of;
 using test::child;
 using test::rows_of;
 
-struct Desk : test::ToolDesk {
+struct CompareDesk : test::ToolDesk {
     using ToolDesk::ToolDesk;
 
     app::CompareDialog* dialog() { return t.window.findChild<app::CompareDialog*>(); }
@@ -55,7 +56,7 @@ private Q_SLOTS:
     void initTestCase() { test::prepare_application(); }
 
     void differences_are_shown_by_team() {
-        Desk desk;
+        CompareDesk desk;
         const QString other = desk.other_image();
         const QByteArray before = bytes_of(other);
         desk.compare(other);
@@ -75,7 +76,7 @@ private Q_SLOTS:
     }
 
     void chosen_fields_are_taken_over_as_one_save() {
-        Desk desk;
+        CompareDesk desk;
         const std::string before = desk.home.image_bytes();
         const QString other = desk.other_image();
         const QByteArray other_before = bytes_of(other);
@@ -98,7 +99,7 @@ private Q_SLOTS:
     }
 
     void the_two_rows_of_one_record_go_together() {
-        Desk desk;
+        CompareDesk desk;
         const DiscBytes disc = test::sheets_of(desk.home.image_bytes());
         const FieldPlace place = test::place_of_cell("players", "t31p23", "speed");
         DiscBytes changed = disc;
@@ -116,7 +117,7 @@ private Q_SLOTS:
     }
 
     void the_list_is_written_as_the_command_writes_it() {
-        Desk desk;
+        CompareDesk desk;
         const QString other = desk.other_image();
         desk.compare(other);
         const auto changes =
@@ -141,7 +142,7 @@ private Q_SLOTS:
     }
 
     void images_that_are_refused_are_told_in_italian() {
-        Desk desk;
+        CompareDesk desk;
         const auto refused = [&](const QString& path) {
             desk.answers.choose(path);
             desk.answers.press(QStringLiteral("OK"));
@@ -158,7 +159,7 @@ private Q_SLOTS:
     }
 
     void every_way_out_changes_nothing() {
-        Desk desk;
+        CompareDesk desk;
         const std::string before = desk.home.image_bytes();
         const QString other = desk.other_image();
         desk.answers.cancel_file_dialog();
@@ -178,7 +179,7 @@ private Q_SLOTS:
     }
 
     void the_keyboard_alone_takes_fields_over() {
-        Desk desk;
+        CompareDesk desk;
         app::CompareDialog& dialog = desk.compare(desk.other_image());
         QVERIFY(QTest::qWaitForWindowActive(&dialog));
         auto& rows = child<QTreeView>(dialog, "listChanges");
@@ -193,7 +194,8 @@ private Q_SLOTS:
 
     void a_fault_while_writing_is_told_and_nothing_changes() {
         test::FaultyFiles files;
-        Desk desk([&files](const std::string& path) { return open_for_saves(files, path, Failures::Kind::run_time); });
+        CompareDesk desk(
+            [&files](const std::string& path) { return open_for_saves(files, path, Failures::Kind::run_time); });
         const std::string before = desk.home.image_bytes();
         desk.compare(desk.other_image());
         desk.changes().tick_shown(true);
@@ -220,7 +222,7 @@ private Q_SLOTS:
     }
 
     void bytes_outside_the_fields_are_counted_again_when_the_image_changed() {
-        Desk desk;
+        CompareDesk desk;
         desk.compare(desk.copy_with("altra.bin", {}, "?!"));
         QCOMPARE(desk.label("labelResult"), QStringLiteral("Nessun campo è diverso."));
         QVERIFY(!desk.button("buttonExport").isEnabled());
@@ -234,5 +236,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestToolsCompare)
+KALCO_WINDOW_TEST(TestToolsCompare)
 #include "test_tools_compare.moc"

@@ -11,6 +11,7 @@
 #include <thread>
 
 #include "app/support/dialogs.h"
+#include "app/support/test_list.h"
 #include "app/support/test_window.h"
 #include "app/tools/job.h"
 #include "app/tools/sectors/sectors_dialog.h"
@@ -312,5 +313,5 @@ private:
     QList<QUrl> opened_;
 };
 
-QTEST_MAIN(TestToolsFiles)
+KALCO_WINDOW_TEST(TestToolsFiles)
 #include "test_tools_files.moc"

@@ -5,6 +5,7 @@
 
 #include "app/saves_stack.h"
 #include "app/support/dialogs.h"
+#include "app/support/test_list.h"
 #include "app/support/test_window.h"
 #include "app/tools/changes/changes_model.h"
 #include "app/tools/changes/changes_view.h"
@@ -316,5 +317,5 @@ private:
     std::unique_ptr<test::DemoHome> home_;
 };
 
-QTEST_MAIN(TestToolsHour)
+KALCO_WINDOW_TEST(TestToolsHour)
 #include "test_tools_hour.moc"

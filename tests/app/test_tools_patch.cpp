@@ -5,6 +5,7 @@
 #include <QTabWidget>
 #include <QtTest>
 
+#include "app/support/test_list.h"
 #include "app/support/tool_desk.h"
 #include "app/tools/changes/changes_view.h"
 #include "app/tools/patch/patch_dialog.h"
@@ -36,8 +37,8 @@ QByteArray patch_between(std::string before, std::string after, std::string_view
     return patch;
 }
 
-struct Desk : test::ToolDesk {
-    explicit Desk(StorageOpener opener = open_file) : ToolDesk(std::move(opener)) { choose("Patch"); }
+struct PatchDesk : test::ToolDesk {
+    explicit PatchDesk(StorageOpener opener = open_file) : ToolDesk(std::move(opener)) { choose("Patch"); }
 
     QWidget& dialog() {
         auto* const found = t.window.findChild<app::PatchDialog*>();
@@ -83,7 +84,7 @@ private Q_SLOTS:
     void initTestCase() { test::prepare_application(); }
 
     void a_patch_shows_what_it_would_change_and_is_applied_as_one_save() {
-        Desk desk;
+        PatchDesk desk;
         const std::string before = desk.home.image_bytes();
         desk.open("rose.ppf", desk.patch());
         QCOMPARE(desk.label("labelAbout"),
@@ -114,7 +115,7 @@ private Q_SLOTS:
     }
 
     void conflicts_are_told_by_meaning() {
-        Desk desk;
+        PatchDesk desk;
         const QByteArray patch = desk.patch();
         desk.t.binder().act([&] {
             desk.t.form().image.write(test::place_of_cell("bars", "t10", "offense").bytes, "\xDC");
@@ -138,7 +139,7 @@ private Q_SLOTS:
     }
 
     void a_patch_for_another_image_is_applied_only_after_asking() {
-        Desk desk;
+        PatchDesk desk;
         QByteArray patch = desk.patch();
         patch[100] = static_cast<char>(patch[100] ^ 1);  // In the block that is checked.
         const std::string before = desk.home.image_bytes();
@@ -154,7 +155,7 @@ private Q_SLOTS:
     }
 
     void a_file_that_is_no_patch_is_told_and_the_last_one_stays() {
-        Desk desk;
+        PatchDesk desk;
         desk.open("rose.ppf", desk.patch());
         test::write_file(desk.path("x.ppf"), "x");
         desk.answers.choose(desk.path("x.ppf"));
@@ -166,7 +167,7 @@ private Q_SLOTS:
     }
 
     void a_patch_beyond_the_image_changes_nothing() {
-        Desk desk;
+        PatchDesk desk;
         QByteArray patch("PPF30\x02", 6);
         patch += QByteArray(50, ' ') + QByteArray(4, '\0') + QByteArray("\0\0\0\0\xFF\0\0\0\x01z", 10);
         desk.open("far.ppf", patch);
@@ -176,7 +177,7 @@ private Q_SLOTS:
     }
 
     void a_patch_is_made_against_a_chosen_original() {
-        Desk desk;
+        PatchDesk desk;
         const QString original = desk.copy_with("originale.bin", {{"bars", "t10", "offense", "\xC8"}});
         desk.show_making();
         QVERIFY(!desk.button("buttonMake").isEnabled());
@@ -191,7 +192,7 @@ private Q_SLOTS:
     }
 
     void a_patch_under_an_images_name_is_made_only_after_asking() {
-        Desk desk;
+        PatchDesk desk;
         const QString original = desk.copy_with("originale.bin", {{"bars", "t10", "offense", "\xC8"}});
         desk.show_making();
         desk.choose_original(original);
@@ -207,7 +208,7 @@ private Q_SLOTS:
     }
 
     void images_that_make_no_patch_are_told() {
-        Desk desk;
+        PatchDesk desk;
         desk.show_making();
         desk.choose_original(desk.copy_with("uguale.bin", {}));
         desk.answers.choose(desk.path("u.ppf"));
@@ -225,7 +226,7 @@ private Q_SLOTS:
     }
 
     void every_way_out_changes_nothing() {
-        Desk desk;
+        PatchDesk desk;
         const std::string before = desk.home.image_bytes();
         const QByteArray patch = desk.patch();
         for (const int way : {0, 1, 2, 3}) {
@@ -246,7 +247,7 @@ private Q_SLOTS:
     }
 
     void the_keyboard_alone_applies_and_takes_off() {
-        Desk desk;
+        PatchDesk desk;
         desk.open("rose.ppf", desk.patch());
         QWidget& dialog = desk.dialog();
         // Without a window manager nothing is active behind a box that went away.
@@ -265,7 +266,8 @@ private Q_SLOTS:
 
     void a_fault_while_writing_is_told_and_nothing_changes() {
         test::FaultyFiles files;
-        Desk desk([&files](const std::string& path) { return open_for_saves(files, path, Failures::Kind::run_time); });
+        PatchDesk desk(
+            [&files](const std::string& path) { return open_for_saves(files, path, Failures::Kind::run_time); });
         const std::string before = desk.home.image_bytes();
         desk.open("rose.ppf", desk.patch());
         files.plan(0);
@@ -291,5 +293,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestToolsPatch)
+KALCO_WINDOW_TEST(TestToolsPatch)
 #include "test_tools_patch.moc"

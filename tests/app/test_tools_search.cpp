@@ -3,6 +3,7 @@
 #include <numeric>
 
 #include "app/support/search.h"
+#include "app/support/test_list.h"
 #include "work/find.h"
 #include "work/report/report.h"
 #include "work/sheets/ids.h"
@@ -216,5 +217,5 @@ private:
     std::unique_ptr<test::DemoHome> home_;
 };
 
-QTEST_MAIN(TestToolsSearch)
+KALCO_WINDOW_TEST(TestToolsSearch)
 #include "test_tools_search.moc"

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "app/support/search.h"
+#include "app/support/test_list.h"
 #include "work/sheets/ids.h"
 
 using namespace kalco;
@@ -96,5 +97,5 @@ private:
     test::DemoHome home_;
 };
 
-QTEST_MAIN(TestToolsSearchCompares)
+KALCO_WINDOW_TEST(TestToolsSearchCompares)
 #include "test_tools_search_compares.moc"

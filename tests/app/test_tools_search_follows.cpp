@@ -4,6 +4,7 @@
 
 #include "app/support/dialogs.h"
 #include "app/support/search.h"
+#include "app/support/test_list.h"
 #include "app/text.h"
 #include "app/tools/search/player_delegate.h"
 #include "app/widgets/portrait_view.h"
@@ -150,5 +151,5 @@ private:
     std::unique_ptr<test::DemoHome> home_;
 };
 
-QTEST_MAIN(TestToolsSearchFollows)
+KALCO_WINDOW_TEST(TestToolsSearchFollows)
 #include "test_tools_search_follows.moc"

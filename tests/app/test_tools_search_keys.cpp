@@ -5,6 +5,7 @@
 
 #include "app/support/dialogs.h"
 #include "app/support/search.h"
+#include "app/support/test_list.h"
 #include "app/text.h"
 #include "disc/image/opening.h"
 #include "support/faulty_files.h"
@@ -232,5 +233,5 @@ private:
     test::DemoHome home_;
 };
 
-QTEST_MAIN(TestToolsSearchKeys)
+KALCO_WINDOW_TEST(TestToolsSearchKeys)
 #include "test_tools_search_keys.moc"

@@ -10,6 +10,7 @@
 #include <QTreeView>
 #include <QtTest>
 
+#include "app/support/test_list.h"
 #include "app/support/tool_desk.h"
 #include "app/tools/changes/changes_view.h"
 #include "app/tools/sheets/import_dialog.h"
@@ -27,7 +28,7 @@ using test::child;
 using test::rows_of;
 
 /// The desk with the import's dialog.
-struct Desk : test::ToolDesk {
+struct SheetDesk : test::ToolDesk {
     using ToolDesk::ToolDesk;
 
     app::ImportDialog* import_dialog() { return t.window.findChild<app::ImportDialog*>(); }
@@ -58,7 +59,7 @@ private Q_SLOTS:
     void initTestCase() { test::prepare_application(); }
 
     void one_sheet_is_exported_as_csv() {
-        Desk desk;
+        SheetDesk desk;
         desk.answers.then<QDialog>([](QDialog& dialog) {
             child<QComboBox>(dialog, "comboSheet").setCurrentText(QStringLiteral("Barre"));
             child<QComboBox>(dialog, "comboSeparator").setCurrentText(QStringLiteral("Virgola"));
@@ -74,7 +75,7 @@ private Q_SLOTS:
     }
 
     void the_separator_and_the_mark_are_those_that_were_chosen() {
-        Desk desk;
+        SheetDesk desk;
         desk.answers.then<QDialog>([](QDialog& dialog) {
             child<QComboBox>(dialog, "comboSheet").setCurrentText(QStringLiteral("Nomi delle squadre"));
             QTest::keyClick(&dialog, Qt::Key_Return);
@@ -85,7 +86,7 @@ private Q_SLOTS:
     }
 
     void all_sheets_go_into_one_workbook_and_no_csv() {
-        Desk desk;
+        SheetDesk desk;
         const auto press = [](QDialog& dialog) {
             QVERIFY(!child<QComboBox>(dialog, "comboSeparator").isEnabled());
             QTest::mouseClick(&child<QPushButton>(dialog, "buttonFile"), Qt::LeftButton);
@@ -103,7 +104,7 @@ private Q_SLOTS:
     }
 
     void an_export_that_is_cancelled_writes_nothing() {
-        Desk desk;
+        SheetDesk desk;
         const QStringList before = QDir(desk.path("")).entryList();
         desk.answers.then<QDialog>([](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
         desk.choose("Esporta foglio");
@@ -118,7 +119,7 @@ private Q_SLOTS:
     }
 
     void an_export_never_replaces_the_image() {
-        Desk desk;
+        SheetDesk desk;
         const std::string before = desk.home.image_bytes();
         desk.answers.then<QDialog>([](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
         desk.answers.choose(desk.path("demo.bin"));
@@ -130,7 +131,7 @@ private Q_SLOTS:
     }
 
     void an_export_to_a_place_that_cannot_be_written_is_told() {
-        Desk desk;
+        SheetDesk desk;
         desk.answers.then<QDialog>([](QDialog& dialog) {
             child<QComboBox>(dialog, "comboSheet").setCurrentText(QStringLiteral("Barre"));
             QTest::keyClick(&dialog, Qt::Key_Return);
@@ -143,7 +144,7 @@ private Q_SLOTS:
     }
 
     void an_import_shows_all_changes_and_writes_them_as_one_save() {
-        Desk desk;
+        SheetDesk desk;
         const std::string before = desk.home.image_bytes();
         QByteArray csv = "id,speed,foot\r\nt10p03,";
         const bool fast = desk.cell("t10p03", "speed") == "19";
@@ -168,7 +169,7 @@ private Q_SLOTS:
     }
 
     void rows_that_are_not_ticked_stay() {
-        Desk desk;
+        SheetDesk desk;
         desk.import("b.csv", "id,power,speed\nt10,#200,#201\nt11,#202,\n");
         // The columns fit no other sheet better than the players', so the sheet is chosen by hand.
         child<QComboBox>(*desk.import_dialog(), "comboSheet").setCurrentText(QStringLiteral("Barre"));
@@ -185,7 +186,7 @@ private Q_SLOTS:
     }
 
     void the_two_rows_of_one_record_are_ticked_together() {
-        Desk desk;
+        SheetDesk desk;
         const std::string held = desk.cell("t31p23", "speed");
         const std::string other = held == "12" ? "13" : "12";
         desk.import("r.csv", csv_of("id,speed,name\nt31p23," + other + ",Uno\nt32p01," + other + ",Due\n"));
@@ -205,7 +206,7 @@ private Q_SLOTS:
     }
 
     void words_filter_the_rows_and_the_buttons_tick_what_is_shown() {
-        Desk desk;
+        SheetDesk desk;
         desk.import("n.csv", "id,n1,n2\nt10,31,30\nt70,31,30\n");
         app::ChangesModel& model = desk.changes();
         const int all = model.chosen_count();
@@ -226,7 +227,7 @@ private Q_SLOTS:
     }
 
     void the_keyboard_alone_imports() {
-        Desk desk;
+        SheetDesk desk;
         app::ImportDialog& dialog = desk.import("b.csv", "id,offense,defense\nt10,#200,#201\n");
         auto& rows = child<QTreeView>(dialog, "listChanges");
         QVERIFY(QTest::qWaitForWindowActive(&dialog));
@@ -242,7 +243,7 @@ private Q_SLOTS:
     }
 
     void every_way_out_changes_nothing() {
-        Desk desk;
+        SheetDesk desk;
         const std::string before = desk.home.image_bytes();
         desk.answers.cancel_file_dialog();
         desk.choose("Importa foglio");
@@ -261,7 +262,7 @@ private Q_SLOTS:
     }
 
     void all_mistakes_are_told_with_row_and_column() {
-        Desk desk;
+        SheetDesk desk;
         app::ImportDialog& dialog = desk.import("e.csv", "id,speed,foot\nt10p03,71,\nt99,12,Mano\nt10p04,,Mano\n");
         const auto& rows = *child<QTableView>(dialog, "tableMistakes").model();
         QCOMPARE(rows.rowCount(), 3);
@@ -277,7 +278,7 @@ private Q_SLOTS:
     }
 
     void a_file_that_is_no_table_is_told() {
-        Desk desk;
+        SheetDesk desk;
         app::ImportDialog& dialog = desk.import("x.csv", "%PDF-1.4");
         const auto& rows = *child<QTableView>(dialog, "tableMistakes").model();
         QCOMPARE(rows.index(0, 2).data().toString(), QStringLiteral("è un PDF, non una tabella"));
@@ -285,7 +286,7 @@ private Q_SLOTS:
     }
 
     void an_old_revision_can_be_gone_over() {
-        Desk desk;
+        SheetDesk desk;
         const std::string other = desk.cell("t10p03", "speed") == "12" ? "13" : "12";
         app::ImportDialog& dialog = desk.import("r.csv", csv_of("id,rev,speed\nt10p03,r00000000," + other + "\n"));
         auto& force = child<QCheckBox>(dialog, "checkForce");
@@ -301,7 +302,7 @@ private Q_SLOTS:
     }
 
     void the_plan_follows_the_image_and_keeps_what_was_ticked() {
-        Desk desk;
+        SheetDesk desk;
         desk.import("b.csv", "id,offense,defense\nt10,#200,#201\n");
         desk.changes().toggle(desk.changes().index(1, 0, desk.changes().index(0, 0)));
         Image& image = desk.t.form().image;
@@ -318,7 +319,7 @@ private Q_SLOTS:
     }
 
     void a_workbook_offers_its_sheets() {
-        Desk desk;
+        SheetDesk desk;
         app::ImportDialog& dialog = desk.import("a.json", "{\"sheet\":\"bars\",\"id\":\"t10\",\"power\":\"#200\"}\n"
                                                           "{\"sheet\":\"teams\",\"id\":\"t10\",\"short\":\"XXX\"}\n");
         auto& sheets = child<QComboBox>(dialog, "comboSheet");
@@ -330,7 +331,8 @@ private Q_SLOTS:
 
     void a_fault_while_writing_is_told_and_nothing_changes() {
         test::FaultyFiles files;
-        Desk desk([&files](const std::string& path) { return open_for_saves(files, path, Failures::Kind::run_time); });
+        SheetDesk desk(
+            [&files](const std::string& path) { return open_for_saves(files, path, Failures::Kind::run_time); });
         const std::string before = desk.home.image_bytes();
         desk.import("b.csv", "id,offense\nt10,#200\n");
         files.plan(0);
@@ -360,5 +362,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestToolsSheets)
+KALCO_WINDOW_TEST(TestToolsSheets)
 #include "test_tools_sheets.moc"

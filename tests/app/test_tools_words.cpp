@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <functional>
 
+#include "app/support/test_list.h"
 #include "app/tools/captions.h"
 #include "app/tools/sentences.h"
 #include "app/tools/words.h"
@@ -392,5 +393,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestToolsWords)
+KALCO_WINDOW_TEST(TestToolsWords)
 #include "test_tools_words.moc"

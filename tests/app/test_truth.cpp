@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QtTest>
 
+#include "app/support/test_list.h"
 #include "app/support/test_window.h"
 #include "app/widgets/notice.h"
 #include "app/widgets/number_board.h"
@@ -314,5 +315,5 @@ private:
     std::unique_ptr<test::TestWindow> t_;
 };
 
-QTEST_MAIN(TestTruth)
+KALCO_WINDOW_TEST(TestTruth)
 #include "test_truth.moc"

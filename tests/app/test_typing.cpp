@@ -4,6 +4,7 @@
 #include <QtTest>
 
 #include "app/binder/view.h"
+#include "app/support/test_list.h"
 #include "app/support/test_window.h"
 #include "app/text.h"
 #include "editor/window/user.h"
@@ -108,5 +109,5 @@ private:
     std::unique_ptr<test::TestWindow> t_;
 };
 
-QTEST_MAIN(TestTyping)
+KALCO_WINDOW_TEST(TestTyping)
 #include "test_typing.moc"

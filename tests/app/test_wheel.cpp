@@ -8,6 +8,7 @@
 #include <QtTest/qtestspontaneevent.h>
 #include <QtTest>
 
+#include "app/support/test_list.h"
 #include "app/support/test_window.h"
 #include "app/widgets/pick_combo.h"
 #include "editor/window/user.h"
@@ -98,5 +99,5 @@ private:
     std::unique_ptr<test::TestWindow> t_;
 };
 
-QTEST_MAIN(TestWheel)
+KALCO_WINDOW_TEST(TestWheel)
 #include "test_wheel.moc"

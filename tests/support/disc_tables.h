@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 
 /// The printed tables of the disc, typed apart from the editor's own: what it computes is compared with these.
@@ -13,6 +14,9 @@ struct PrintedTeam {
     std::array<int, 6> lengths;  ///< T1 to T6; 0 for none.
 };
 extern const std::array<PrintedTeam, 96> printed_teams;
+inline const PrintedTeam& printed_team(int team) {
+    return printed_teams[static_cast<std::size_t>(team)];
+}
 
 /// A field that crosses a sector end: where its two pieces lie.
 struct PrintedSplit {

@@ -17,6 +17,10 @@
 
 namespace kalco::test {
 
+/// What the program tells after a save and after an export.
+inline const std::string saved = "Salvataggio effettuato con successo";
+inline const std::string exported = "File creato con successo";
+
 /// The whole editor on an image in memory, started and driven as a user drives it.
 class EditorRun : ImageObserver {
 public:

@@ -10,7 +10,7 @@
 namespace kalco::test {
 namespace {
 
-constexpr std::size_t image_sectors = 2410;
+constexpr std::size_t filled_sectors = 2410;
 constexpr std::int64_t first_name = 387793;
 constexpr std::int64_t first_record = 2179493;
 constexpr std::int64_t first_pool_name = 2006289;
@@ -27,7 +27,7 @@ std::uint32_t mixed(int team, int player, std::uint32_t salt) {
 
 /// Noise that is never zero, so that cleared bytes differ from it.
 std::string noise() {
-    std::string image(image_sectors * 2352, '\0');
+    std::string image(filled_sectors * 2352, '\0');
     std::uint32_t state = 1234567;
     for (char& byte : image) {
         state = state * 1664525U + 1013904223U;
@@ -169,6 +169,14 @@ std::string in_capitals(std::string text) {
 
 void put(std::string& image, std::int64_t position, const std::string& bytes) {
     image.replace(static_cast<std::size_t>(position - 1), bytes.size(), bytes);
+}
+
+void put(std::string& image, const Pieces& field, std::string bytes) {
+    for (const Piece& piece : field) {
+        const std::string part = bytes.substr(0, static_cast<std::size_t>(piece.bytes));
+        put(image, piece.position, part);
+        bytes.erase(0, part.size());
+    }
 }
 
 std::string bytes_at(const std::string& image, std::int64_t position, std::size_t count) {

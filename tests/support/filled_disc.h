@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <string>
 
+#include "disc/image/position.h"
+
 /// A complete image in memory: the names of all teams, the rosters, the pool and the costs lie where the game keeps
 /// them, and noise lies everywhere else, so that a byte written at a wrong place always shows.
 namespace kalco::test {
@@ -27,6 +29,8 @@ std::string letter_code(const std::string& text);
 std::string in_capitals(std::string text);
 
 void put(std::string& image, std::int64_t position, const std::string& bytes);
+/// The bytes over the pieces of a field; what there are too few for is left.
+void put(std::string& image, const Pieces& field, std::string bytes);
 std::string bytes_at(const std::string& image, std::int64_t position, std::size_t count);
 /// The same along the user data, over sector ends.
 void put_user_data(std::string& image, std::int64_t position, const std::string& bytes);

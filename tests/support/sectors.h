@@ -11,6 +11,8 @@
 
 namespace kalco::test {
 
+inline constexpr SectorKind all_kinds[] = {SectorKind::mode1, SectorKind::form1, SectorKind::form2, SectorKind::other};
+
 /// A sector of the kind around the bytes that `next` gives, with the header of address 0 and all check fields.
 template <typename Next>
 RawSector sector_of(SectorKind kind, Next next) {

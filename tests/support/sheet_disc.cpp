@@ -10,7 +10,7 @@ namespace kalco::test {
 namespace {
 
 /// As many sectors as the last table needs, and one more.
-constexpr std::size_t image_sectors = 2405;
+constexpr std::size_t sheet_disc_sectors = 2405;
 
 std::pair<const Sheet&, int> find_row(std::string_view sheet, std::string_view id) {
     const Sheet* found = sheet_named(sheet);
@@ -42,7 +42,7 @@ const std::string& demo_image_bytes() {
 
 std::string random_image_bytes(std::uint32_t seed) {
     std::mt19937 random(seed);
-    std::string bytes(image_sectors * sector_bytes, '\0');
+    std::string bytes(sheet_disc_sectors * sector_bytes, '\0');
     for (char& byte : bytes) byte = static_cast<char>(random());
     return bytes;
 }

@@ -7,7 +7,7 @@
 namespace kalco::app {
 namespace {
 
-enum Column { number, time, position, fields, columns };
+enum Column { number, time, position, fields, column_count };
 
 QVariant alignment(int column) {
     return QVariant((column == fields ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
@@ -26,7 +26,7 @@ int BadSectorsModel::rowCount(const QModelIndex& parent) const {
 }
 
 int BadSectorsModel::columnCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : columns;
+    return parent.isValid() ? 0 : column_count;
 }
 
 QVariant BadSectorsModel::data(const QModelIndex& index, int role) const {

@@ -16,6 +16,8 @@
 namespace kalco {
 namespace {
 
+using test::put;
+
 /// All 1449 + 462 places.
 std::vector<PlayerPlace> all_places() {
     std::vector<PlayerPlace> places;
@@ -146,13 +148,6 @@ std::string bytes_of(const std::string& image, const Pieces& field) {
     return bytes;
 }
 
-void put(std::string& image, const Pieces& field, std::string bytes) {
-    for (const Piece& piece : field) {
-        test::put(image, piece.position, bytes.substr(0, static_cast<std::size_t>(piece.bytes)));
-        bytes.erase(0, static_cast<std::size_t>(piece.bytes));
-    }
-}
-
 TEST_F(PlayersOfAnImage, ComeBackAsTheyWereWrittenAndTouchNothingElse) {
     std::mt19937 random(463);
     std::string expected = disc_.bytes;
@@ -170,7 +165,7 @@ TEST_F(PlayersOfAnImage, ComeBackAsTheyWereWrittenAndTouchNothingElse) {
         const int cost = static_cast<int>(random() % 256);
         write_cost(image_, place, cost);
         if (const auto position = cost_position(place)) {
-            test::put(expected, *position, std::string(1, static_cast<char>(cost)));
+            put(expected, *position, std::string(1, static_cast<char>(cost)));
             EXPECT_EQ(read_cost(image_, place), cost);
         }
     }

@@ -14,12 +14,7 @@
 namespace kalco {
 namespace {
 
-void put(std::string& image, const Pieces& field, std::string bytes) {
-    for (const Piece& piece : field) {
-        test::put(image, piece.position, bytes.substr(0, static_cast<std::size_t>(piece.bytes)));
-        bytes.erase(0, std::min(bytes.size(), static_cast<std::size_t>(piece.bytes)));
-    }
-}
+using test::put;
 
 class TeamImport : public ::testing::Test {
 protected:

@@ -7,11 +7,7 @@
 namespace kalco {
 namespace {
 
-using test::printed_teams;
-
-const test::PrintedTeam& printed(int team) {
-    return printed_teams[static_cast<std::size_t>(team)];
-}
+using test::printed_team;
 
 std::int64_t table_entry_position(int team, std::size_t table) {
     const auto entry = Call_Name(Team(team))[table];
@@ -26,7 +22,7 @@ TEST(NameCatalogue, GivesTheFullWidthEntriesByTeam) {
             continue;
         }
         ASSERT_TRUE(entry) << team;
-        EXPECT_EQ(*entry, (NameEntry{printed(team).full_width_position, printed(team).full_width_bytes}));
+        EXPECT_EQ(*entry, (NameEntry{printed_team(team).full_width_position, printed_team(team).full_width_bytes}));
     }
     for (const int team : {-1, 96, 1000}) EXPECT_FALSE(Off_Name_HEX(Team(team))) << team;
 }
@@ -78,7 +74,7 @@ TEST(NameCatalogue, WalksDownEveryBlock) {
         for (int table = 0; table < 6; ++table) {
             const auto column = static_cast<std::size_t>(table);
             const auto entry = Call_Name(Team(team))[column];
-            const int length = printed(team).lengths[column];
+            const int length = printed_team(team).lengths[column];
             ASSERT_EQ(entry.has_value(), length > 0) << team << " T" << table + 1;
             if (!entry) continue;
             EXPECT_EQ(entry->length, length);

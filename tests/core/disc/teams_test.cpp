@@ -7,19 +7,16 @@
 namespace kalco {
 namespace {
 
+using test::printed_team;
 using test::printed_teams;
-
-const test::PrintedTeam& printed(int team) {
-    return printed_teams[static_cast<std::size_t>(team)];
-}
 
 TEST(Catalogue, HoldsThePrintedRows) {
     for (int team = 0; team < 96; ++team) {
         const TeamFacts& facts = team_facts[static_cast<std::size_t>(team)];
-        EXPECT_EQ(facts.row, printed(team).row);
-        EXPECT_EQ(facts.full_width_position, printed(team).full_width_position) << facts.row;
-        EXPECT_EQ(facts.full_width_bytes, printed(team).full_width_bytes) << facts.row;
-        EXPECT_EQ(facts.name_lengths, printed(team).lengths) << facts.row;
+        EXPECT_EQ(facts.row, printed_team(team).row);
+        EXPECT_EQ(facts.full_width_position, printed_team(team).full_width_position) << facts.row;
+        EXPECT_EQ(facts.full_width_bytes, printed_team(team).full_width_bytes) << facts.row;
+        EXPECT_EQ(facts.name_lengths, printed_team(team).lengths) << facts.row;
     }
 }
 

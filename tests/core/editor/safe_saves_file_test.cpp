@@ -11,6 +11,7 @@
 #include "support/every_save.h"
 #include "support/faulty_files.h"
 #include "support/filled_disc.h"
+#include "support/image_names.h"
 
 namespace kalco {
 namespace {
@@ -19,22 +20,21 @@ using test::CallFault;
 using test::Desk;
 using test::EverySave;
 using test::FaultyFiles;
-
-constexpr auto name = "disc.bin";
-constexpr auto journal_name = "disc.bin.kalco-journal";
+using test::image_name;
+using test::journal_name;
 
 class RealSave : public ::testing::TestWithParam<std::size_t> {
 protected:
     static void TearDownTestSuite() { tally.print("saves of a file"); }
 
-    RealSave() { home.write(name, test::filled_image()); }
+    RealSave() { home.write(image_name, test::filled_image()); }
 
     /// What the save does on the filled image, with a fault at one of its calls.
     void run(int call = 0, CallFault fault = {}) {
         files.plan(0);
-        Desk desk(home, opener(), home.path(name));
+        Desk desk(home, opener(), home.path(image_name));
         save.prepare(desk);
-        if (before.empty()) before = home.read(name);
+        if (before.empty()) before = home.read(image_name);
         files.plan(call, fault);
         try {
             save.save(desk);
@@ -48,10 +48,10 @@ protected:
     void fill_again(const std::string& held) const {
         const std::string& filled = test::filled_image();
         if (held.size() != filled.size()) {
-            home.write(name, filled);
+            home.write(image_name, filled);
             return;
         }
-        std::fstream file(home.path(name), std::ios::binary | std::ios::in | std::ios::out);
+        std::fstream file(home.path(image_name), std::ios::binary | std::ios::in | std::ios::out);
         for (std::size_t place = 0; place < held.size(); place += sector_bytes) {
             const auto sector = std::string_view(filled).substr(place, sector_bytes);
             if (sector == std::string_view(held).substr(place, sector_bytes)) continue;
@@ -61,9 +61,9 @@ protected:
     std::string next_image() {
         files.plan(0);
         Image image(opener());
-        image.open(home.path(name));
+        image.open(home.path(image_name));
         EXPECT_FALSE(home.has(journal_name));
-        return home.read(name);
+        return home.read(image_name);
     }
     StorageOpener opener() {
         return [this](const std::string& path) { return open_for_saves(files, path, Failures::Kind::run_time); };
@@ -92,7 +92,7 @@ std::vector<CallFault> faults_of(std::size_t call) {
 
 TEST_P(RealSave, IsWholeOrNotAtAll) {
     run();
-    const std::string after = home.read(name);
+    const std::string after = home.read(image_name);
     const std::vector<std::string> whole = calls;
     ASSERT_NE(before, after);
     EXPECT_FALSE(home.has(journal_name));

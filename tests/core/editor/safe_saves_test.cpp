@@ -11,6 +11,7 @@
 #include "support/every_save.h"
 #include "support/fake_files.h"
 #include "support/filled_disc.h"
+#include "support/image_names.h"
 
 namespace kalco {
 namespace {
@@ -19,10 +20,9 @@ using test::CallFault;
 using test::Desk;
 using test::EverySave;
 using test::FakeFiles;
+using test::image_name;
+using test::journal_name;
 using test::PagedBytes;
-
-constexpr auto image_name = "disc.bin";
-constexpr auto journal_name = "disc.bin.kalco-journal";
 
 StorageOpener opener_on(FakeFiles& files) {
     return [&files](const std::string& path) { return open_for_saves(files, path, Failures::Kind::run_time); };

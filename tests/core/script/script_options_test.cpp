@@ -15,7 +15,7 @@
 namespace kalco::script {
 namespace {
 
-ScriptOptions parsed(const std::string& arguments) {
+ScriptOptions options_of(const std::string& arguments) {
     CLI::App app;
     ScriptOptions options;
     const CLI::App& command = add_script_command(app, options);
@@ -25,14 +25,14 @@ ScriptOptions parsed(const std::string& arguments) {
 }
 
 TEST(ScriptOptions, AreADirectoryAndAFile) {
-    EXPECT_EQ(parsed("script").home, std::nullopt);
-    EXPECT_EQ(parsed("script").file, "");
-    EXPECT_EQ(parsed("script a.kalco").file, "a.kalco");
-    EXPECT_EQ(parsed("script --home /x a.kalco").home, "/x");
-    EXPECT_EQ(parsed("script -").file, "-");
-    EXPECT_EQ(parsed("script a.kalco --home /x").file, "a.kalco");
-    EXPECT_THROW(parsed("script a b"), CLI::ParseError);
-    EXPECT_THROW(parsed("script --house /x"), CLI::ParseError);
+    EXPECT_EQ(options_of("script").home, std::nullopt);
+    EXPECT_EQ(options_of("script").file, "");
+    EXPECT_EQ(options_of("script a.kalco").file, "a.kalco");
+    EXPECT_EQ(options_of("script --home /x a.kalco").home, "/x");
+    EXPECT_EQ(options_of("script -").file, "-");
+    EXPECT_EQ(options_of("script a.kalco --home /x").file, "a.kalco");
+    EXPECT_THROW(options_of("script a b"), CLI::ParseError);
+    EXPECT_THROW(options_of("script --house /x"), CLI::ParseError);
 }
 
 TEST(PlayScript, PlaysTheFileInItsDirectory) {

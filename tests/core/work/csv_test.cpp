@@ -21,7 +21,7 @@ std::vector<std::string> names(const Table& table) {
 }
 
 /// The row and the complaint of a text that is refused.
-std::pair<int, std::string> refusal(std::string_view csv) {
+std::pair<int, std::string> csv_refusal(std::string_view csv) {
     try {
         static_cast<void>(table_of_csv(csv));
     } catch (const TableError& error) {
@@ -107,10 +107,10 @@ TEST(Csv, TakesNoLetterAndNoQuoteAsASeparator) {
 }
 
 TEST(Csv, RefusesWhatIsNoTable) {
-    EXPECT_EQ(refusal("id,name\r\nm001,\"open\r\n\r\n"), std::pair(2, std::string("a quote is never closed")));
-    EXPECT_EQ(refusal("id,name\r\nm001,\"a\"b\r\n"), std::pair(2, std::string("text behind a closing quote")));
-    EXPECT_EQ(refusal("id,name\r\nm001,N\xD1\r\n"), std::pair(2, std::string("not UTF-8")));
-    EXPECT_EQ(refusal("id,name\r\nm001,ab\"c\"\r\n").second, "taken");
+    EXPECT_EQ(csv_refusal("id,name\r\nm001,\"open\r\n\r\n"), std::pair(2, std::string("a quote is never closed")));
+    EXPECT_EQ(csv_refusal("id,name\r\nm001,\"a\"b\r\n"), std::pair(2, std::string("text behind a closing quote")));
+    EXPECT_EQ(csv_refusal("id,name\r\nm001,N\xD1\r\n"), std::pair(2, std::string("not UTF-8")));
+    EXPECT_EQ(csv_refusal("id,name\r\nm001,ab\"c\"\r\n").second, "taken");
 }
 
 TEST(Csv, LimitsTheNumberOfCells) {
@@ -118,11 +118,11 @@ TEST(Csv, LimitsTheNumberOfCells) {
     std::string csv = "id\n";
     for (int i = 0; i < 100; ++i) csv += row;
     EXPECT_EQ(table_of_csv(csv).rows.size(), 100U);
-    EXPECT_EQ(refusal(csv + "x\n"), std::pair(102, std::string("too many cells")));
+    EXPECT_EQ(csv_refusal(csv + "x\n"), std::pair(102, std::string("too many cells")));
     // Empty rows cost nothing, however many they are.
     for (int i = 0; i < 100; ++i) csv += std::string(9999, ',') + '\n';
     EXPECT_EQ(table_of_csv(csv).rows.size(), 100U);
-    EXPECT_EQ(refusal(std::string(2000000, ',')), std::pair(1, std::string("too many cells")));
+    EXPECT_EQ(csv_refusal(std::string(2000000, ',')), std::pair(1, std::string("too many cells")));
 }
 
 TEST(Csv, IsEmptyWhenNothingIsThere) {

@@ -18,13 +18,13 @@
 namespace kalco::test {
 namespace {
 
-constexpr int sectors = 24;
+constexpr int disc_sectors = 24;
 
 class PatchFaults : public ::testing::TestWithParam<PatchWay> {
 protected:
     PatchFaults() {
         std::mt19937 random(3);
-        for (int k = 0; k < sectors; ++k) original += as_text(random_sector(SectorKind::form1, random));
+        for (int k = 0; k < disc_sectors; ++k) original += as_text(random_sector(SectorKind::form1, random));
         edited = original;
         for (const int sector : {17, 18, 21}) {
             edited.replace(static_cast<std::size_t>(sector * sector_bytes) + 100, 5, "Rossi");

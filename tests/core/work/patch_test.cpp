@@ -15,12 +15,12 @@
 namespace kalco::test {
 namespace {
 
-constexpr int sectors = 24;
+constexpr int image_sectors = 24;
 
 std::string disc_of_valid_sectors() {
     std::mt19937 random(7);
     std::string bytes;
-    for (std::uint32_t number = 0; number < sectors; ++number) {
+    for (std::uint32_t number = 0; number < image_sectors; ++number) {
         std::array<std::uint8_t, user_bytes> user{};
         for (std::uint8_t& byte : user) byte = static_cast<std::uint8_t>(random());
         const RawSector sector = make_sector(number, user);
@@ -98,7 +98,7 @@ TEST_F(PatchTest, AppliesAndTakesBackRandomEdits) {
         }
         // Sectors that don't check take all bytes of the patch.
         std::string unchecked = original;
-        for (int sector = 0; sector < sectors; ++sector) {
+        for (int sector = 0; sector < image_sectors; ++sector) {
             char& byte = unchecked[static_cast<std::size_t>(sector * sector_bytes) + layout::q];
             byte = static_cast<char>(byte ^ 1);
             edited[static_cast<std::size_t>(sector * sector_bytes) + layout::q] = byte;

@@ -15,12 +15,11 @@
 namespace kalco {
 namespace {
 
+using test::all_kinds;
 using test::CallFault;
 using test::FakeFiles;
 using test::image_name;
 using test::journal_name;
-
-constexpr SectorKind all_kinds[] = {SectorKind::mode1, SectorKind::form1, SectorKind::form2, SectorKind::other};
 
 void no_progress(std::int64_t) {}
 

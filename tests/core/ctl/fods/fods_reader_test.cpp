@@ -7,7 +7,7 @@ namespace {
 
 using Cells = std::vector<std::string>;
 
-std::string workbook(const std::string& sheets) {
+std::string workbook_of(const std::string& sheets) {
     return R"(<?xml version="1.0" encoding="UTF-8"?>
 <office:document xmlns:office="urn:oasis:names:tc:opendocument:xmlns:office:1.0"
   xmlns:table="urn:oasis:names:tc:opendocument:xmlns:table:1.0"
@@ -34,7 +34,7 @@ const std::string id_and_name = row(cell("id") + cell("name"));
 
 /// The cells of the only row behind a header of two columns.
 Cells cells_of(const std::string& cells) {
-    const Tables tables = tables_of_fods(workbook(sheet(id_and_name + row(cells))));
+    const Tables tables = tables_of_fods(workbook_of(sheet(id_and_name + row(cells))));
     EXPECT_EQ(tables.size(), 1U);
     if (tables.size() != 1 || tables[0].rows.size() != 1) return {"no row"};
     return tables[0].rows[0].cells;
@@ -64,8 +64,8 @@ std::string complaint(const std::string& text) {
 }
 
 TEST(FodsReader, GivesSheetsHeadersAndRows) {
-    const Tables tables = tables_of_fods(workbook(sheet(id_and_name + row(cell("t00p01") + cell("Rossi"))) +
-                                                  sheet(row(cell("id")) + row(cell("t95")), "teams")));
+    const Tables tables = tables_of_fods(workbook_of(sheet(id_and_name + row(cell("t00p01") + cell("Rossi"))) +
+                                                     sheet(row(cell("id")) + row(cell("t95")), "teams")));
     ASSERT_EQ(tables.size(), 2U);
     EXPECT_EQ(tables[0].sheet, "players");
     EXPECT_EQ(names_of(tables[0]), (Cells{"id", "name"}));
@@ -85,14 +85,15 @@ TEST(FodsReader, CountsRepeatedRowsAndDropsEmptyOnes) {
     const std::string rest =
         R"(<table:table-row table:number-rows-repeated="1048560"><table:table-cell table:number-columns-repeated="16384"/>)"
         "</table:table-row>";
-    const Tables tables = tables_of_fods(workbook(sheet(id_and_name + empty + twice + row(cell("m002")) + rest)));
+    const Tables tables = tables_of_fods(workbook_of(sheet(id_and_name + empty + twice + row(cell("m002")) + rest)));
     ASSERT_EQ(tables.size(), 1U);
     EXPECT_EQ(numbers_of(tables[0]), (std::vector<int>{5, 6, 7}));
     EXPECT_EQ(tables[0].rows[1].cells, (Cells{"m001"}));
 }
 
 TEST(FodsReader, TakesTheFirstRowWithContentAsTheHeader) {
-    const Tables tables = tables_of_fods(workbook(sheet(row("<table:table-cell/>") + id_and_name + row(cell("m001")))));
+    const Tables tables =
+        tables_of_fods(workbook_of(sheet(row("<table:table-cell/>") + id_and_name + row(cell("m001")))));
     ASSERT_EQ(tables.size(), 1U);
     EXPECT_EQ(tables[0].columns[1].row, 2);
     EXPECT_EQ(numbers_of(tables[0]), (std::vector<int>{3}));
@@ -117,7 +118,7 @@ TEST(FodsReader, FindsRowsInGroups) {
     const std::string rows =
         "<table:table-header-rows>" + id_and_name + "</table:table-header-rows><table:table-rows>" + row(cell("m001")) +
         "<table:table-row-group>" + row(cell("m002")) + "</table:table-row-group></table:table-rows>";
-    const Tables tables = tables_of_fods(workbook(sheet("<table:table-column/>" + rows)));
+    const Tables tables = tables_of_fods(workbook_of(sheet("<table:table-column/>" + rows)));
     ASSERT_EQ(tables.size(), 1U);
     EXPECT_EQ(numbers_of(tables[0]), (std::vector<int>{2, 3}));
 }
@@ -175,7 +176,7 @@ TEST(FodsReader, CollapsesBlanksOfTheFile) {
 }
 
 TEST(FodsReader, DropsSheetsWithoutCells) {
-    EXPECT_TRUE(tables_of_fods(workbook(sheet(row("<table:table-cell/>")) + sheet("", "Foglio2"))).empty());
+    EXPECT_TRUE(tables_of_fods(workbook_of(sheet(row("<table:table-cell/>")) + sheet("", "Foglio2"))).empty());
 }
 
 TEST(FodsReader, RefusesWhatIsNoSpreadsheet) {
@@ -185,13 +186,13 @@ TEST(FodsReader, RefusesWhatIsNoSpreadsheet) {
               "no flat OpenDocument spreadsheet");
     EXPECT_EQ(complaint("caf\xE9"), "the file is not UTF-8");
     EXPECT_TRUE(complaint("").starts_with("line 1: no well-formed XML")) << complaint("");
-    const std::string whole = workbook(sheet(id_and_name));
+    const std::string whole = workbook_of(sheet(id_and_name));
     EXPECT_TRUE(complaint(whole.substr(0, whole.size() / 2)).starts_with("line 5: no well-formed XML"))
         << complaint(whole.substr(0, whole.size() / 2));
 }
 
 TEST(FodsReader, ExpandsNoEntities) {
-    std::string text = workbook(sheet(id_and_name + row(cell("&b;"))));
+    std::string text = workbook_of(sheet(id_and_name + row(cell("&b;"))));
     text.insert(text.find("<office:document"),
                 R"(<!DOCTYPE x [<!ENTITY a "aaaaaaaaaa"><!ENTITY b "&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;">]>)");
     const Tables tables = tables_of_fods(text);
@@ -201,8 +202,9 @@ TEST(FodsReader, ExpandsNoEntities) {
 
 TEST(FodsReader, RefusesMoreThanADiscCouldMean) {
     const auto filled = [](const std::string& rows, const std::string& columns, const std::string& text) {
-        return workbook(sheet(id_and_name + "<table:table-row table:number-rows-repeated=\"" + rows + "\">" +
-                              cell(text, "table:number-columns-repeated=\"" + columns + '"') + "</table:table-row>"));
+        return workbook_of(sheet(id_and_name + "<table:table-row table:number-rows-repeated=\"" + rows + "\">" +
+                                 cell(text, "table:number-columns-repeated=\"" + columns + '"') +
+                                 "</table:table-row>"));
     };
     EXPECT_EQ(complaint(filled("1", "257", "a")), "2: more than 256 columns");
     EXPECT_EQ(complaint(filled("1", "99999999999999999999", "a")), "2: more than 256 columns");
@@ -222,16 +224,16 @@ std::string nested(const std::string& element, int depth) {
 
 TEST(FodsReader, RefusesEndlessNesting) {
     constexpr int deep = 10'000;
-    EXPECT_EQ(complaint(workbook(sheet(id_and_name + row(cell(nested("text:span", deep)))))),
+    EXPECT_EQ(complaint(workbook_of(sheet(id_and_name + row(cell(nested("text:span", deep)))))),
               "2: text elements nested without end");
-    EXPECT_EQ(complaint(workbook(sheet(id_and_name + nested("table:table-row-group", deep)))),
+    EXPECT_EQ(complaint(workbook_of(sheet(id_and_name + nested("table:table-row-group", deep)))),
               "2: rows grouped without end");
 }
 
 TEST(FodsReader, StopsCountingRowsThatNoSpreadsheetHas) {
     const std::string many =
         R"(<table:table-row table:number-rows-repeated="2147483647"><table:table-cell/></table:table-row>)";
-    const Tables tables = tables_of_fods(workbook(sheet(id_and_name + many + many + many + row(cell("m001")))));
+    const Tables tables = tables_of_fods(workbook_of(sheet(id_and_name + many + many + many + row(cell("m001")))));
     ASSERT_EQ(tables.size(), 1U);
     EXPECT_EQ(numbers_of(tables[0]), (std::vector<int>{1 << 30}));
 }

@@ -10,11 +10,9 @@
 #include "disc/image/opening.h"
 #include "disc/runtime_error.h"
 #include "support/fake_files.h"
+#include "support/image_names.h"
 
 namespace kalco::test {
-
-inline constexpr auto image_name = "disc.bin";
-inline constexpr auto journal_name = "disc.bin.kalco-journal";
 
 /// A small image on the fake file system, and a few kinds of saves of it.
 struct SaveCase {

@@ -16,7 +16,7 @@ std::string bars_of(int row) {
     return bytes_at(filled_image(), printed_bars(row));
 }
 
-std::string image_with(int row, const std::string& bars) {
+std::string image_with_bars(int row, const std::string& bars) {
     std::string image = filled_image();
     put(image, printed_bars(row), bars);
     return image;
@@ -80,7 +80,7 @@ TEST_P(BarsOfEveryRow, AreShownSteppedAndSaved) {
     EXPECT_EQ(tab.form.listApp2.count(), 86);
     EXPECT_EQ(tab.disc.writes, 0);
     tab.click(tab.form.cmdSalva);
-    EXPECT_TRUE(same_image(tab.disc.bytes, image_with(row, bars)));
+    EXPECT_TRUE(same_image(tab.disc.bytes, image_with_bars(row, bars)));
     EXPECT_EQ(tab.told(), Texts{saved});
     EXPECT_EQ(tab.disc.flushes, 1);
     EXPECT_EQ(tab.form.listApp2.count(), 86);
@@ -106,18 +106,18 @@ TEST(BarsOfTheDefaultTeam, AreNone) {
 }
 
 TEST(BarsSave, WritesTheSplitRowInTwoPieces) {
-    FormationTab tab(image_with(3, bytes_of_digits("0508070608")));
+    FormationTab tab(image_with_bars(3, bytes_of_digits("0508070608")));
     tab.choose(3);
     tab.click(tab.form.cmdPiu(5));
     EXPECT_EQ(tab.form.listApp2.item(3), "0508070609");
     tab.click(tab.form.cmdSalva);
     EXPECT_EQ(hex_digits(tab.disc.at(2328200, 1)), "05");
     EXPECT_EQ(hex_digits(tab.disc.at(2328505, 4)), "08070609");
-    EXPECT_TRUE(same_image(tab.disc.bytes, image_with(3, bytes_of_digits("0508070609"))));
+    EXPECT_TRUE(same_image(tab.disc.bytes, image_with_bars(3, bytes_of_digits("0508070609"))));
 }
 
 TEST(BarsStep, IsHeldBetween0And10) {
-    FormationTab tab(image_with(10, bytes_of_digits("0901000A05")));
+    FormationTab tab(image_with_bars(10, bytes_of_digits("0901000A05")));
     tab.choose(10);
     tab.click(tab.form.cmdPiu(1));
     EXPECT_EQ(tab.form.listApp2.item(10), "0A01000A05");
@@ -136,7 +136,7 @@ TEST(BarsStep, TakesEveryStoredByte) {
     for (int stored = 0; stored < 256; ++stored) {
         const std::string bars{static_cast<char>(stored), 4, static_cast<char>(stored), 4, 4};
         const int held = std::min(stored, 10);
-        FormationTab tab(image_with(20, bars));
+        FormationTab tab(image_with_bars(20, bars));
         tab.choose(20);
         EXPECT_EQ(tab.form.pbFZ(1).value(), held);
         EXPECT_EQ(tab.form.pbFZ(1).caption(), std::to_string(stored));
@@ -149,21 +149,21 @@ TEST(BarsStep, TakesEveryStoredByte) {
         const std::string row{static_cast<char>(lower), 4, static_cast<char>(held), 4, 4};
         EXPECT_EQ(tab.form.listApp2.item(20), hex_digits(row));
         tab.click(tab.form.cmdSalva);
-        EXPECT_TRUE(same_image(tab.disc.bytes, image_with(20, row)));
+        EXPECT_TRUE(same_image(tab.disc.bytes, image_with_bars(20, row)));
     }
 }
 
 TEST(BarsSave, WithoutAStepWritesTheStoredBytes) {
     const std::string bars = bytes_of_digits("FF10807F0B");
-    FormationTab tab(image_with(20, bars));
+    FormationTab tab(image_with_bars(20, bars));
     tab.choose(20);
     tab.click(tab.form.cmdSalva);
-    EXPECT_TRUE(same_image(tab.disc.bytes, image_with(20, bars)));
+    EXPECT_TRUE(same_image(tab.disc.bytes, image_with_bars(20, bars)));
     EXPECT_EQ(tab.log.size(), 1U);
 }
 
 TEST(UnsavedBars, SurviveAnotherTeamAndAnotherTab) {
-    FormationTab tab(image_with(10, bytes_of_digits("0505050505")));
+    FormationTab tab(image_with_bars(10, bytes_of_digits("0505050505")));
     tab.choose(10);
     tab.click(tab.form.cmdPiu(2));
     tab.choose(11);
@@ -181,7 +181,7 @@ TEST(UnsavedBars, SurviveAnotherTeamAndAnotherTab) {
 }
 
 TEST(UnsavedBars, OfOtherTeamsAreDroppedByASave) {
-    FormationTab tab(image_with(10, bytes_of_digits("0505050505")));
+    FormationTab tab(image_with_bars(10, bytes_of_digits("0505050505")));
     tab.choose(10);
     tab.click(tab.form.cmdPiu(2));
     tab.select_tab(tab::transfers);
@@ -204,7 +204,7 @@ TEST(UnsavedBars, AreNotSavedWithTheFormation) {
 }
 
 TEST(UnsavedBars, AreDroppedWhenAnotherImageIsOpened) {
-    FormationTab tab(image_with(10, bytes_of_digits("0505050505")));
+    FormationTab tab(image_with_bars(10, bytes_of_digits("0505050505")));
     tab.choose(10);
     tab.click(tab.form.cmdPiu(2));
     tab.platform.choices.emplace_back("other.bin");
@@ -251,13 +251,13 @@ TEST(BarsWithoutATeam, DoNothing) {
 TEST(BarsSave, LeavesTheOldImageAtAFailingWrite) {
     for (const int row : {3, 10, 85}) {
         for (int failing = 1; failing <= (row == 3 ? 2 : 1); ++failing) {
-            FormationTab tab(image_with(row, bytes_of_digits("0101010101")));
+            FormationTab tab(image_with_bars(row, bytes_of_digits("0101010101")));
             tab.choose(row);
             for (int i = 1; i <= 5; ++i) tab.click(tab.form.cmdPiu(i));
             tab.disc.failing_write = failing;
             EXPECT_EQ(error_of([&] { tab.click(tab.form.cmdSalva); }), 61);
             EXPECT_EQ(tab.told(), Texts{});
-            EXPECT_TRUE(same_image(tab.disc.bytes, image_with(row, bytes_of_digits("0101010101"))));
+            EXPECT_TRUE(same_image(tab.disc.bytes, image_with_bars(row, bytes_of_digits("0101010101"))));
         }
     }
 }

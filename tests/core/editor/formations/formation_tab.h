@@ -12,15 +12,14 @@
 namespace kalco::formation_tests {
 
 using test::error_of;
+using test::exported;
 using test::places_of;
 using test::printed_bars;
 using test::printed_formation;
 using test::put;
 using test::same_image;
+using test::saved;
 using test::Stretches;
-
-inline const std::string saved = "Salvataggio effettuato con successo";
-inline const std::string exported = "File creato con successo";
 
 /// The position of a byte of the user data, counted sector by sector.
 ImagePos user_byte_position(UserOffset offset);

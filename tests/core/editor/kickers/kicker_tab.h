@@ -13,8 +13,8 @@ namespace kalco::kicker_tests {
 using Texts = std::vector<std::string>;
 using test::EditorRun;
 
-inline const std::string saved = "Salvataggio effettuato con successo";
-inline const std::string exported = "File creato con successo";
+using test::exported;
+using test::saved;
 
 /// Where the tables print the record of a row.
 ImagePos printed_position(int row);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "disc/player_codes.h"
 #include "support/disc_tables.h"
 
 namespace kalco::league_tests {
@@ -89,6 +90,13 @@ const std::vector<int>& odd_picks() {
     static const std::vector<int> rows{0,   10,  148, 319, 1,   2,   4,   147, 149, 203, 204, 318,
                                        321, 407, 409, 461, 460, 100, 101, 102, 275, 276, 408};
     return rows;
+}
+
+std::string joined_codes(const std::vector<int>& rows) {
+    std::string digits;
+    const Texts pool = pool_codes();
+    for (const int row : rows) digits += pool[static_cast<std::size_t>(row)];
+    return digits;
 }
 
 }  // namespace kalco::league_tests

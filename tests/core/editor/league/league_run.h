@@ -14,8 +14,6 @@ namespace kalco::league_tests {
 
 using Texts = std::vector<std::string>;
 
-inline const std::string saved = "Salvataggio effettuato con successo";
-
 using test::printed_club;
 using test::printed_clubs;
 using test::printed_copies;
@@ -23,6 +21,7 @@ using test::printed_link_position;
 using test::PrintedClub;
 using test::PrintedCopies;
 using test::PrintedCopy;
+using test::saved;
 
 /// The image with digits laid over a club's link table, as many bytes as they give.
 std::string with_links(std::string image, int club, const std::string& digits);
@@ -67,5 +66,8 @@ inline const Texts& rows_of(const ListBox& list) {
 /// Rows of the pool that can be picked, those whose name or record crosses a sector end among them: 0, 10, 148, 319,
 /// 408 at the places 0, 1, 2, 3 and 22.
 const std::vector<int>& odd_picks();
+
+/// The codes of rows of the pool, one behind the other.
+std::string joined_codes(const std::vector<int>& rows);
 
 }  // namespace kalco::league_tests

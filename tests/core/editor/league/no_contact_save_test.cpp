@@ -48,13 +48,6 @@ std::string with_players(std::string image, const std::vector<int>& rows, const 
     return image;
 }
 
-std::string joined_codes(const std::vector<int>& rows) {
-    std::string digits;
-    const Texts pool = pool_codes();
-    for (const int row : rows) digits += pool[static_cast<std::size_t>(row)];
-    return digits;
-}
-
 /// A run in which the club, 23 picks and the file wait for the save.
 class SaveRun : public LeagueRun {
 public:

@@ -41,13 +41,6 @@ void expect_picks(const frmKalco& form, const std::vector<int>& rows) {
     EXPECT_EQ(form.lblNumGioc.caption(), std::to_string(rows.size()));
 }
 
-std::string joined_codes(const std::vector<int>& rows) {
-    std::string digits;
-    const Texts pool = pool_codes();
-    for (const int row : rows) digits += pool[static_cast<std::size_t>(row)];
-    return digits;
-}
-
 /// A run with a club chosen.
 class PickRun : public LeagueRun {
 public:

@@ -11,8 +11,9 @@ namespace kalco::number_tests {
 
 using Entries = std::vector<std::string>;
 
-inline const std::string saved = "Salvataggio effettuato con successo";
-inline const std::string exported = "File creato con successo";
+using test::exported;
+using test::saved;
+
 /// The folder of the side files, as it is named on the disk.
 inline const std::string folder = "N\xC2\xB0 Maglia";
 

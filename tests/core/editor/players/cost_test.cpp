@@ -10,8 +10,7 @@ using test::EditorRun;
 using test::padded_name;
 using test::put;
 using test::same_image;
-
-const std::vector<std::string> saved{"Salvataggio effettuato con successo"};
+using test::saved;
 
 TEST(Cost, IsWrittenAsOneByte) {
     EditorRun run;
@@ -64,7 +63,7 @@ TEST(Cost, HoldsTheFocusAboveItsLimit) {
     run.type(form.txtML, "250");
     run.told();
     run.click(form.cmdSaveCar);
-    EXPECT_EQ(run.told(), saved);
+    EXPECT_EQ(run.told(), std::vector{saved});
 }
 
 TEST(Cost, KeepsTheNameThatTheFocusDidNotReach) {

@@ -15,10 +15,9 @@ using test::padded_name;
 using test::put;
 using test::put_user_data;
 using test::same_image;
+using test::saved;
 using test::zeroes;
 using Texts = std::vector<std::string>;
-
-const Texts saved{"Salvataggio effettuato con successo"};
 constexpr std::int64_t first_cost = 3067405;
 
 std::int64_t name_position(int team, int player) {
@@ -63,7 +62,7 @@ TEST_P(SaveInEveryTeam, WritesNameAndRecordOfEveryPlayer) {
         run.type(run.form.txtName, name);
         const int defence = change_defence(run);
         run.click(run.form.cmdSaveCar);
-        EXPECT_EQ(run.told(), saved);
+        EXPECT_EQ(run.told(), Texts{saved});
         put_user_data(expected, name_position(team, player), padded_name(name));
         put_user_data(expected, record_position(team, player), with_defence(before, defence));
         EXPECT_EQ(run.form.listDat.row(), player);
@@ -88,7 +87,7 @@ TEST(PlayerSave, WritesTheRowsOfThePool) {
         run.type(run.form.txtName, "Abcdefghij");
         const int defence = change_defence(run);
         run.click(run.form.cmdSaveCar);
-        EXPECT_EQ(run.told(), saved);
+        EXPECT_EQ(run.told(), Texts{saved});
         put_user_data(expected, name_position(95, row), "Abcdefghij");
         put_user_data(expected, record_position(95, row), with_defence(test::player_record(95, row), defence));
         EXPECT_TRUE(same_image(run.disc.bytes, expected)) << row;
@@ -144,7 +143,7 @@ TEST(PlayerSave, WritesOnlyWhatHasChanged) {
     run.click(run.form.cmdSaveCar);
     ASSERT_EQ(run.log.size(), 1U) << "nothing has changed: the cost alone";
     EXPECT_EQ(run.log[0].position, first_cost + 23 * 12 + 5);
-    EXPECT_EQ(run.told(), saved);
+    EXPECT_EQ(run.told(), Texts{saved});
 
     run.log.clear();
     run.type(run.form.txtName, "Nuovo");
@@ -179,7 +178,7 @@ TEST(PlayerSave, WritesNothingForAnUnchangedPlayerWithoutCost) {
         run.log.clear();
         run.click(run.form.cmdSaveCar);
         EXPECT_TRUE(run.log.empty()) << team;
-        EXPECT_EQ(run.told(), saved);
+        EXPECT_EQ(run.told(), Texts{saved});
         EXPECT_EQ(run.form.listDat.row(), 22);
     }
 }
@@ -324,7 +323,7 @@ TEST(PlayerSave, TellsFirstReopensThenAndSelectsAgain) {
     change_defence(run);
     const int names = run.NAMES_GIOC_NAZ;
     EXPECT_EQ(test::error_of([&] { user::click(run.form, run.form.cmdSaveCar); }), error::path_access);
-    EXPECT_EQ(run.told(), saved);
+    EXPECT_EQ(run.told(), Texts{saved});
     EXPECT_EQ(run.NAMES_GIOC_NAZ, names);
 }
 

@@ -17,11 +17,10 @@ using test::player_record;
 using test::put;
 using test::put_user_data;
 using test::same_image;
+using test::saved;
 using test::team_file;
 using test::zeroes;
 using Texts = std::vector<std::string>;
-
-const Texts saved{"Salvataggio effettuato con successo"};
 
 /// What a whole-team save leaves of a roster, place by place.
 std::string with_roster(std::string image, int team, const Texts& names, const Texts& records) {
@@ -74,7 +73,7 @@ TEST_P(RoundTrip, LeavesTheImageAsItWas) {
     run.click(run.form.cmdImp);
     run.told();
     run.click(run.form.cmdSaveCar);
-    EXPECT_EQ(run.told(), saved);
+    EXPECT_EQ(run.told(), Texts{saved});
     std::string expected = test::filled_image();
     // The file has the full-width name with the blanks that stand for its padding, and so have the tables then.
     const std::string shown = test::in_capitals(run.form.txtSQ.text());
@@ -104,7 +103,7 @@ TEST_P(ImportOverEveryTeam, WritesTheWholeRoster) {
         run.log.clear();
         run.disc.flushes = 0;
         run.click(run.form.cmdSaveCar);
-        EXPECT_EQ(run.told(), saved);
+        EXPECT_EQ(run.told(), Texts{saved});
         const auto [names, records] = roster_of(95, players);
         EXPECT_TRUE(same_image(run.disc.bytes, with_roster(test::filled_image(), team, names, records))) << players;
         EXPECT_EQ(run.form.ImportPending, 0);
@@ -197,7 +196,7 @@ TEST(ImportSave, WritesTheScreenAfterACancelledDialog) {
     run.click(run.form.cmdImp);
     run.log.clear();
     run.click(run.form.cmdSaveCar);
-    EXPECT_EQ(run.told(), saved);
+    EXPECT_EQ(run.told(), Texts{saved});
     EXPECT_GT(run.log.size(), 60U) << "the whole team was written";
     EXPECT_TRUE(same_image(run.disc.bytes, test::filled_image())) << "with what the lists showed";
     EXPECT_EQ(run.form.ImportPending, 0);
@@ -274,7 +273,7 @@ TEST(DefaultTeamSave, WritesItsRowsOfThePool) {
         run.type(run.form.txtML, "99");
         run.disc.flushes = 0;
         run.click(run.form.cmdSaveCar);
-        EXPECT_EQ(run.told(), saved);
+        EXPECT_EQ(run.told(), Texts{saved});
         const auto [names, records] = roster_of(20, players);
         std::string expected = with_default_team(test::filled_image(), names, records);
         put(expected, 3069520, "\x63");

@@ -12,11 +12,10 @@ namespace kalco {
 namespace {
 
 using test::EditorRun;
+using test::exported;
 using test::same_image;
 using test::team_file;
 using Texts = std::vector<std::string>;
-
-const Texts made{"File creato con successo"};
 constexpr const char* one_player = "p1=635839574,-758741619,1415927664,Uno\r\n";
 
 int error_of_import(EditorRun& run, const std::string& contents) {
@@ -31,7 +30,7 @@ TEST(TeamExport, WritesTheTeamOnTheScreen) {
     run.form.ListFile.add("old");
     run.click(run.form.cmdExp);
     EXPECT_EQ(run.platform.messages.at(0).icon, Icon::information);
-    EXPECT_EQ(run.told(), made);
+    EXPECT_EQ(run.told(), Texts{exported});
     EXPECT_EQ(run.home.read("Export/Italy.DAT"), team_file(10, 23, "Italy", "ITA"));
     EXPECT_EQ(run.form.listApp.row(), 3);
     EXPECT_EQ(run.form.ListFile.count(), 28);

@@ -9,9 +9,8 @@ namespace kalco {
 namespace {
 
 using test::EditorRun;
+using test::exported;
 using Texts = std::vector<std::string>;
-
-const Texts made{"File creato con successo"};
 const Texts missing{"Devi selezionare l'altro Giocatore"};
 const Texts too_few{"Attenzione puoi aprire solo\r\n     files di 23 giocatori"};
 
@@ -296,7 +295,7 @@ TEST_F(Transfers, SaveBothTeams) {
     choose(form.ListVende, 1);
     run.click(form.cmdSave2);
     EXPECT_EQ(run.platform.messages.at(0).icon, Icon::information);
-    EXPECT_EQ(run.told(), made);
+    EXPECT_EQ(run.told(), Texts{exported});
     EXPECT_EQ(run.home.read("Transfer/UNGHERIA.DAT"), test::team_file(20, 23, "Ungheria", "UNG"));
     run.click(form.OpRec);
     choose(form.ListCompra, 1);
@@ -344,7 +343,7 @@ TEST_F(Transfers, TellWhatPreventsASave) {
     EXPECT_EQ(user::select_tab(form, tab::numbers), user::Outcome::done);
     EXPECT_EQ(user::select_tab(form, tab::transfers), user::Outcome::done);
     run.click(form.cmdSave2);
-    EXPECT_EQ(run.told(), made);
+    EXPECT_EQ(run.told(), Texts{exported});
     EXPECT_TRUE(run.home.has("Transfer/Due.DAT"));
 }
 

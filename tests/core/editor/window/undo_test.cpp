@@ -19,7 +19,7 @@ using test::EditorRun;
 using test::same_image;
 using Text = std::optional<std::string>;
 
-const test::TemporaryHome& home() {
+const test::TemporaryHome& story_home() {
     static const test::TemporaryHome directory;
     return directory;
 }
@@ -29,7 +29,7 @@ TEST(Undo, GivesTheOldImageBackForEverySave) {
         if (save.name == "undo" || save.name == "redo") continue;
         test::Disc disc;
         disc.bytes = test::filled_image();
-        Desk desk(home(), test::opener_of(disc), "disc.bin");
+        Desk desk(story_home(), test::opener_of(disc), "disc.bin");
         save.prepare(desk);
         const std::string before = disc.bytes;
         save.save(desk);
@@ -49,7 +49,7 @@ TEST(Undo, LeadsFromTheEndOfAnyStoryToItsStart) {
         std::mt19937 random(seed);
         test::Disc disc;
         disc.bytes = test::filled_image();
-        Desk desk(home(), test::opener_of(disc), "disc.bin");
+        Desk desk(story_home(), test::opener_of(disc), "disc.bin");
         test::RandomStory story(desk, [&random] { return static_cast<unsigned>(random()); });
         std::vector<std::string> states{disc.bytes};
         for (int action = 0; action < 1500; ++action) {
@@ -144,7 +144,7 @@ TEST(Undo, DoesNothingWithoutASave) {
 TEST(Undo, IsAboutTheOpenImageAlone) {
     test::Shelf shelf;
     shelf.discs["a.bin"].bytes = shelf.discs["b.bin"].bytes = test::filled_image();
-    Desk desk(home(), shelf.opener(), "a.bin");
+    Desk desk(story_home(), shelf.opener(), "a.bin");
     const test::EverySave& save = test::every_save()[0];
     const auto open = [&desk](const std::string& path) {
         desk.platform.choices.push_back(path);
@@ -175,7 +175,7 @@ protected:
         const auto opener = [this](const std::string& path) {
             return open_for_saves(files, path, Failures::Kind::run_time);
         };
-        Desk desk(home(), opener, "disc.bin");
+        Desk desk(story_home(), opener, "disc.bin");
         open = desk.form.image.is_open();
         return desk.platform.messages;
     }

@@ -11,7 +11,7 @@
 namespace kalco::check {
 namespace {
 
-constexpr SectorKind all_kinds[] = {SectorKind::mode1, SectorKind::form1, SectorKind::form2, SectorKind::other};
+using test::all_kinds;
 
 /// Sectors in memory, and what is told of them.
 class ImageCheck : public testing::Test {

@@ -7,7 +7,7 @@
 namespace kalco {
 namespace {
 
-constexpr std::array<int, 2> sectors{3, 4};
+constexpr std::array<int, 2> two_sectors{3, 4};
 
 /// Sectors 3 and 4 of an image whose bytes count up.
 DiscBytes counting() {
@@ -16,7 +16,7 @@ DiscBytes counting() {
                 for (int i = 0; i < bytes; ++i) result += static_cast<char>(position - 1 + i);
                 return result;
             },
-            sectors};
+            two_sectors};
 }
 
 constexpr ImagePos start = ImagePos{3} * sector_bytes + 1;
@@ -107,7 +107,7 @@ TEST(DiscBytes, TellsNeighbouringDifferencesAsOneRun) {
 }
 
 TEST(DiscBytes, TakesAShortReadingForZeroes) {
-    const DiscBytes disc([](ImagePos, int) { return std::string("ab"); }, sectors);
+    const DiscBytes disc([](ImagePos, int) { return std::string("ab"); }, two_sectors);
     EXPECT_EQ(disc.read(Piece{start, 4}), std::string("ab\0\0", 4));
 }
 
