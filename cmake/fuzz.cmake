@@ -8,25 +8,27 @@ list(REMOVE_ITEM fuzz_shared ${fuzz_sources})
 # Those of the tests' support that the fuzzers need; the others need GoogleTest.
 list(APPEND fuzz_shared tests/support/fake_files.cpp tests/support/filled_disc.cpp tests/support/disc_tables.cpp)
 
-include(cmake/ctl.cmake)
 # What is looked for is in the program: the fuzzers' own code guides nothing and would be half of a run's time.
-foreach(library kalco_disc kalco_work kalco_editor kalco_ctl kalco_script)
-    target_compile_options(${library} PRIVATE -fsanitize=fuzzer-no-link)
+# The words and signs of texts and patches are learnt from what they are compared with; in records and images every byte
+# means something, and watching the comparisons there would be a third of a run's time.
+foreach(target kalco_disc kalco_editor)
+    target_compile_options(${target} PRIVATE -fsanitize-coverage=inline-8bit-counters,pc-table)
 endforeach()
-# These run thousands of times a second; the commands around them take longest to compile.
-foreach(storey kalco_disc kalco_work kalco_editor)
-    target_compile_options(${storey} PRIVATE -O2)
+foreach(target kalco_work kalco_ctl kalco_script kalcoctl)
+    target_compile_options(${target} PRIVATE -fsanitize=fuzzer-no-link)
 endforeach()
 
 add_library(fuzz_support STATIC ${fuzz_shared})
 target_include_directories(fuzz_support PUBLIC ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/tests)
-target_compile_options(fuzz_support PRIVATE -O2)
+target_compile_options(fuzz_support PRIVATE -O1)
 target_link_libraries(fuzz_support PUBLIC kalco_ctl kalco_script PRIVATE kalco_warnings)
+compile_together(fuzz_support)
 
 add_custom_target(fuzzers)
 foreach(source ${fuzz_sources})
     get_filename_component(name ${source} NAME_WE)
     add_executable(${name} ${source})
+    target_compile_options(${name} PRIVATE -O1)
     target_link_libraries(${name} PRIVATE fuzz_support kalco_warnings)
     target_link_options(${name} PRIVATE -fsanitize=fuzzer)
     add_dependencies(fuzzers ${name})
