@@ -16,7 +16,7 @@ target_include_directories(kalco_app PUBLIC ${PROJECT_SOURCE_DIR} ${PROJECT_SOUR
 target_compile_definitions(kalco_app PUBLIC QT_NO_KEYWORDS)
 target_link_libraries(kalco_app PUBLIC kalco_editor kalco_ctl Qt6::Core Qt6::Gui Qt6::Widgets Qt6::Svg Qt6::SvgWidgets
                                 PRIVATE kalco_warnings)
-compile_together(kalco_app)
+compile_together(kalco_app 24)
 if(KALCO_PCH)
     target_precompile_headers(kalco_app PRIVATE <QtWidgets/QtWidgets> <functional> <map> <memory> <string> <vector>)
 endif()

@@ -9,7 +9,8 @@ set(test_bin ${CMAKE_BINARY_DIR}/tests)
 # The offscreen platform's own screen is smaller than any that is sold.
 set(screens ${PROJECT_SOURCE_DIR}/tests/app/screens)
 set(test_env LC_ALL=C.UTF-8 QT_QPA_PLATFORM=offscreen:configfile=${screens}/1920x1080.json
-    UBSAN_OPTIONS=print_stacktrace=1 LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0)
+    ASAN_OPTIONS=malloc_context_size=12 UBSAN_OPTIONS=print_stacktrace=1
+    LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0)
 
 # core_tests: one program for each folder of tests/core, core_<folder>_tests, so that a change builds what it touches.
 # The slow one runs in shards, side by side.
@@ -24,7 +25,7 @@ else()
     target_include_directories(core_support PUBLIC tests ${PROJECT_SOURCE_DIR})
     target_link_libraries(core_support PUBLIC kalco_ctl kalco_script kalco_editor kalco_work GTest::gtest
                                        PRIVATE kalco_warnings)
-    compile_together(core_support)
+    compile_together(core_support 12)
     if(KALCO_PCH)
         target_precompile_headers(core_support PRIVATE
             <gtest/gtest.h> <nlohmann/json.hpp> <array> <filesystem> <fstream> <functional> <random> <span> <string>
@@ -37,7 +38,7 @@ else()
         file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${path}/*_test.cpp)
         set(program core_${folder}_tests)
         add_executable(${program} ${sources})
-        compile_together(${program})
+        compile_together(${program} 12)
         set_target_properties(${program} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${test_bin})
         target_link_libraries(${program} PRIVATE core_support GTest::gtest_main kalco_warnings)
         if(KALCO_PCH)
@@ -122,8 +123,15 @@ add_stories(stories_window window_script window)
 file(GLOB window_tests CONFIGURE_DEPENDS tests/app/test_*.cpp)
 # The images in memory of the tools' tests are those of the core tests.
 add_window_program(window_tests tests/app/window_tests.cpp ${window_tests} tests/support/sheet_disc.cpp)
-set_target_properties(window_tests PROPERTIES AUTOMOC ON)
-compile_together(window_tests)
+compile_together(window_tests 12)
+# AUTOMOC would read all headers below each test first. The classes of the tests can be told without.
+set(moc_folder ${CMAKE_CURRENT_BINARY_DIR}/window_tests_moc)
+foreach(source ${window_tests})
+    get_filename_component(name ${source} NAME_WE)
+    qt6_generate_moc(${source} ${moc_folder}/${name}.moc)
+    target_sources(window_tests PRIVATE ${moc_folder}/${name}.moc)
+endforeach()
+target_include_directories(window_tests PRIVATE ${moc_folder})
 target_compile_definitions(window_tests PRIVATE
     KALCO_PROGRAM="$<TARGET_FILE:kalco>" KALCO_SOURCE="${PROJECT_SOURCE_DIR}")
 add_dependencies(window_tests kalco)

@@ -181,7 +181,7 @@ private Q_SLOTS:
     void the_keyboard_alone_takes_fields_over() {
         CompareDesk desk;
         app::CompareDialog& dialog = desk.compare(desk.other_image());
-        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        QVERIFY(test::bring_to_front(dialog));
         auto& rows = child<QTreeView>(dialog, "listChanges");
         rows.setFocus();
         QTest::keyClick(&rows, Qt::Key_Home);

@@ -253,7 +253,7 @@ private Q_SLOTS:
         // Without a window manager nothing is active behind a box that went away.
         const auto press = [&dialog](Qt::Key key) {
             dialog.activateWindow();
-            QVERIFY(QTest::qWaitForWindowActive(&dialog));
+            QVERIFY(test::bring_to_front(dialog));
             QTest::keyClick(&dialog, key, Qt::AltModifier);
         };
         press(Qt::Key_A);

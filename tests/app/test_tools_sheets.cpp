@@ -230,7 +230,7 @@ private Q_SLOTS:
         SheetDesk desk;
         app::ImportDialog& dialog = desk.import("b.csv", "id,offense,defense\nt10,#200,#201\n");
         auto& rows = child<QTreeView>(dialog, "listChanges");
-        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        QVERIFY(test::bring_to_front(dialog));
         rows.setFocus();
         QTest::keyClick(&rows, Qt::Key_Home);
         QTest::keyClick(&rows, Qt::Key_Down);
@@ -292,7 +292,7 @@ private Q_SLOTS:
         auto& force = child<QCheckBox>(dialog, "checkForce");
         QVERIFY(force.isVisible() && !force.isChecked());
         QVERIFY(!desk.apply().isEnabled());
-        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        QVERIFY(test::bring_to_front(dialog));
         QTest::keyClick(&dialog, Qt::Key_I, Qt::AltModifier);
         QTRY_VERIFY(force.isChecked());
         QCOMPARE(desk.changes().chosen_count(), 1);

@@ -256,40 +256,51 @@ def limit_files():
 
 
 class SlowWork(CheckTest):
-    """A check that takes more than a second: it is stopped for so long."""
+    """A check that takes more than a second: it is stopped for so long as soon as it has begun."""
 
-    def run_slowly(self, **options):
+    def run_slowly(self, side, main):
+        """Yields the running check, whose errors go to `side`, and what has arrived of them at `main` so far."""
         with open(self.path("big.bin"), "wb") as file:
             file.truncate(1_000_000 * SECTOR)
         try:
             with subprocess.Popen([kalcoctl(), "check", "--all", "big.bin"], cwd=self.home,
-                                  stdout=subprocess.DEVNULL, **options) as running:
-                time.sleep(0.05)
+                                  stdout=subprocess.DEVNULL, stderr=side) as running:
+                os.close(side)
+                shown = b""
+                while b"\n" not in shown:  # what it tells first
+                    shown += os.read(main, 4096)
+                time.sleep(0.02)
                 running.send_signal(signal.SIGSTOP)
                 time.sleep(1.2)
                 running.send_signal(signal.SIGCONT)
-                yield running
+                yield running, shown
         finally:
+            os.close(main)
             os.remove(self.path("big.bin"))
+
+    @staticmethod
+    def rest(main):
+        """What arrives until the other side is closed."""
+        shown = b""
+        try:
+            while part := os.read(main, 4096):
+                shown += part
+        except OSError:  # how a terminal ends
+            pass
+        return shown
 
     def test_progress_goes_to_a_terminal_and_away(self):
         main, side = pty.openpty()
-        shown = b""
-        for running in self.run_slowly(stderr=side):
-            os.close(side)
-            try:
-                while part := os.read(main, 4096):
-                    shown += part
-            except OSError:  # the other side has closed it
-                pass
-        os.close(main)
+        for running, shown in self.run_slowly(side, main):
+            shown += self.rest(main)
         self.assertEqual(running.returncode, 0)
         self.assertRegex(shown, rb"\rkalcoctl check: \d+ %")
         self.assertTrue(shown.endswith(b"\r\x1b[K"), shown[-40:])
 
     def test_without_a_terminal_nothing_tells_of_it(self):
-        for running in self.run_slowly(stderr=subprocess.PIPE):
-            error = running.stderr.read().decode()
+        main, side = os.pipe()
+        for running, shown in self.run_slowly(side, main):
+            error = (shown + self.rest(main)).decode()
         self.assertEqual(running.returncode, 0)
         self.assertEqual(error.count("\n"), 1)
         self.assertIn("no volume descriptor", error)

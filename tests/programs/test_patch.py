@@ -180,8 +180,9 @@ class Apply(PatchTest):
                 self.assertEqual(got[start:start + 2072], image[start:start + 2072], form)
             if form["version"] == 3 and form.get("undo", True):
                 self.expect(0, "patch", "undo", "disc.bin", "p.ppf")
+                got = self.read("disc.bin")
                 for start in where:
-                    self.assertEqual(self.read("disc.bin")[start:start + 2072], self.original[start:start + 2072])
+                    self.assertEqual(got[start:start + 2072], self.original[start:start + 2072], form)
             else:
                 self.assertIn("old bytes", self.refuse(2, "patch", "undo", "disc.bin", "p.ppf", "--force"))
 

@@ -51,7 +51,7 @@ class Killed(ProgramTest):
         began = time.monotonic()
         self.write("disc.bin", before)
         self.start((*OPENING, *story)).communicate(timeout=SECONDS)
-        whole = time.monotonic() - began
+        whole = min(time.monotonic() - began, 2)  # a disk can stall
         self.assertTrue(self.read("disc.bin") == states[-1])
 
         chance = random.Random(11)

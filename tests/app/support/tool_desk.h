@@ -14,6 +14,13 @@
 /// support/sheet_disc.cpp too.
 namespace kalco::test {
 
+/// Makes a window the active one, which is what window managers do with one that opens: the offscreen platform does not
+/// when a box of progress was shown before it, on a slow machine.
+inline bool bring_to_front(QWidget& window) {
+    window.activateWindow();
+    return QTest::qWaitForWindowActive(&window);
+}
+
 inline QByteArray bytes_of(const QString& path) {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
