@@ -52,13 +52,13 @@ private:
     PickCombo& combo_;
 };
 
-constexpr int bar_steps = 8;  ///< Of a skill's bar.
+constexpr int skill_bar_steps = 8;  ///< Of a skill's bar.
 
 void draw_skill_bar(QPainter& painter, QSize size, int reached, const QColor& track) {
     painter.setPen(Qt::NoPen);
-    const double step = static_cast<double>(size.width()) / bar_steps;
-    for (int i = 0; i < bar_steps; ++i) {
-        painter.setBrush(i < reached ? skill_colour((reached - 1.0) / (bar_steps - 1)) : track);
+    const double step = static_cast<double>(size.width()) / skill_bar_steps;
+    for (int i = 0; i < skill_bar_steps; ++i) {
+        painter.setBrush(i < reached ? skill_colour((reached - 1.0) / (skill_bar_steps - 1)) : track);
         painter.drawRoundedRect(QRectF(i * step, 0, step - 2, size.height()), 2, 2);
     }
 }
@@ -142,13 +142,13 @@ void SkillCombo::paint_field(QStylePainter& painter, QStyleOptionComboBox& optio
     bool is_number = false;
     const int skill = shown_text().toInt(&is_number);
     if (!is_number || skill < lowest) return;
-    const int reached = std::min(skill - lowest + 1, bar_steps);
+    const int reached = std::min(skill - lowest + 1, skill_bar_steps);
 
     const int number = fontMetrics().horizontalAdvance(QStringLiteral("00")) + 14;
     QRect area = field_rect(option).adjusted(number, 0, -6, 0);
     const int height = std::min(8, area.height() / 2);
     area = QRect(area.left(), area.center().y() - height / 2 + 1, area.width(), height);
-    if (area.width() < bar_steps) return;
+    if (area.width() < skill_bar_steps) return;
     QColor track = palette().color(QPalette::ButtonText);
     track.setAlphaF(0.12F);
     const auto draw = [&](QPainter& bar) { draw_skill_bar(bar, area.size(), reached, track); };

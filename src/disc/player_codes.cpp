@@ -98,7 +98,8 @@ std::optional<PlayerCode> code_of(const PlayerPlace& place) {
 }
 
 std::string digits_of(PlayerCode code) {
-    return hex_number(code.team, 2) + hex_number(code.number, 2);
+    const std::array<char, 2> bytes{static_cast<char>(code.team), static_cast<char>(code.number)};
+    return hex_digits({bytes.data(), bytes.size()});
 }
 
 std::optional<PlayerCode> code_of_digits(std::string_view digits) {
@@ -108,6 +109,7 @@ std::optional<PlayerCode> code_of_digits(std::string_view digits) {
 
 std::vector<std::string> roster_codes() {
     std::vector<std::string> codes;
+    codes.reserve(std::size_t{roster_team_count} * roster_players);
     for (int team = 0; team < roster_team_count; ++team) {
         for (int player = 0; player < roster_players; ++player) {
             codes.push_back(digits_of(*code_of(RosterPlace{Team(team), player})));

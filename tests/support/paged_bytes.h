@@ -28,11 +28,17 @@ public:
         std::string result;
         while (offset < end) {
             const std::int64_t page = offset / page_bytes;
-            const auto start = static_cast<std::size_t>(offset % page_bytes);
-            const auto bytes = static_cast<std::size_t>(std::min(end - offset, (page + 1) * page_bytes - offset));
+            const std::int64_t bytes = std::min(end, (page + 1) * page_bytes) - offset;
             const auto changed = pages_.find(page);
-            result.append(changed != pages_.end() ? changed->second : base_page(page), start, bytes);
-            offset += static_cast<std::int64_t>(bytes);
+            if (changed != pages_.end()) {
+                result.append(changed->second, static_cast<std::size_t>(offset % page_bytes),
+                              static_cast<std::size_t>(bytes));
+            } else {
+                const std::int64_t held = std::clamp<std::int64_t>(base_size_ - offset, 0, bytes);
+                if (held > 0) result.append(*base_, static_cast<std::size_t>(offset), static_cast<std::size_t>(held));
+                result.append(static_cast<std::size_t>(bytes - held), '\0');
+            }
+            offset += bytes;
         }
         return result;
     }
